@@ -1,0 +1,39 @@
+#include "shell/CalculationWindow.h"
+
+#include "shell/Program.h"
+#include "shell/frmDocumento.h"
+#include "shell/frmPadre.h"
+
+namespace caudalera {
+
+CalculationWindow::CalculationWindow(Program& program, std::string name, std::string text)
+    : Window(program, std::move(name), std::move(text)) {
+    mainAction = &bCalcular;
+    bCalcular.onClick = [this] { calcular(); };
+    bLimpiar.onClick = [this] { limpiar(); };
+    bImprimir.onClick = [this] { platform().printWindow(*this); };
+    bMenu.onClick = [this] {
+        this->program().unload(*this);
+        this->program().show("frmCaudalera");
+    };
+    bReporte.onClick = [this] { reporte(); };
+    bCalculadora.enabled = this->program().knows("frmCalculadora");
+    bCalculadora.onClick = [this] { this->program().show("frmCalculadora"); };
+}
+
+void CalculationWindow::reporte() {
+    program().show("frmPadre");
+    conTrampa(
+        [this] {
+            program().variables.contadorLineas = filasDelReporte();
+            ReportWriter escritor(program().padre()->documentoParaReporte().rtfText);
+            escritor.titulo(caption);
+            escribirReporte(escritor);
+        },
+        [this](const RuntimeFailure&) {
+            mensaje("No se puede editar el reporte: " + caption, "Mensaje de error",
+                    Icon::information);
+        });
+}
+
+} // namespace caudalera

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "shell/ReportWriter.h"
+#include "shell/Window.h"
+
+namespace caudalera {
+
+/// What every calculation window has: its command buttons and the frame of its report. A window
+/// says which groups of commands it shows in `commands`.
+class CalculationWindow : public Window {
+public:
+    CalculationWindow(Program& program, std::string name, std::string caption);
+
+    Frame Frame6{*this, "Frame6", ""};
+    Button bCalcular{*this, "bCalcular", "Calc&ular", "Efectuar cálculos"};
+    Button bLimpiar{*this, "bLimpiar", "&Limpiar", "Limpiar pantalla"};
+    Button bImprimir{*this, "bImprimir", "&Imprimir", "Imprimir pantalla"};
+    Button bMenu{*this, "bMenu", "&Menú Principal", "Retornar menú principal"};
+    Frame Frame7{*this, "Frame7", "Archivos y resultados:"};
+    Button bReporte{*this, "bReporte", "&Reporte", "Generar reporte"};
+    Button bCalculadora{*this, "bCalculadora", "Calculadora"};
+
+protected:
+    virtual void calcular() = 0;
+    virtual void limpiar() = 0;
+    /// The window's own content of the report, behind the title block.
+    virtual void escribirReporte(ReportWriter& reporte) = 0;
+    /// Rows of data that the report counts.
+    virtual long filasDelReporte() const { return 0; }
+
+private:
+    void reporte();
+};
+
+} // namespace caudalera

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace caudalera {
+
+/// The path that an UTF-8 text names, also where the system's own paths are not UTF-8.
+inline std::filesystem::path filePath(const std::string& utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+} // namespace caudalera

@@ -1,0 +1,32 @@
+#include "shell/ReportWriter.h"
+
+namespace caudalera {
+
+void ReportWriter::titulo(std::string_view rotulo) {
+    text_.setSelIndent(200);
+    text_.setSelRightIndent(200);
+    alinear(Alignment::center);
+    *this << "Resultados" << LF << LF << rotulo << LF << LF;
+    alinear(Alignment::left);
+    *this << LF;
+}
+
+void ReportWriter::sangrar(int twips) {
+    text_.setSelIndent(twips);
+    text_.setSelRightIndent(twips);
+}
+
+void ReportWriter::regla(long guiones) {
+    *this << std::string(static_cast<std::size_t>(guiones), '-') << LF;
+}
+
+void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima,
+                         std::string_view tras) {
+    for (long fila = primera; fila <= ultima; ++fila) {
+        for (long col = 0; col < grid.Cols(); ++col)
+            *this << grid.TextMatrix(fila, col) << tras;
+        *this << LF;
+    }
+}
+
+} // namespace caudalera

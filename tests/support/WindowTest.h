@@ -1,0 +1,68 @@
+#pragma once
+
+#include "tests/support/Act.h"
+#include "tests/support/RecordingPlatform.h"
+
+#include "shell/Program.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace caudalera {
+
+/// A started program on the recording platform, with what a test says and reads in one word each.
+/// Every test has an empty folder of its own.
+class WindowTest : public ::testing::Test {
+protected:
+    /// `opens`: the windows that the program can open; those of the main menu, if not given.
+    explicit WindowTest(const std::vector<WindowEntry>& opens = ventanas());
+    ~WindowTest() override;
+
+    RecordingPlatform platform;
+    Program program;
+
+    /// Opens a window as its menu entry does.
+    Window& open(const std::string& name);
+    Window& window(const std::string& name);
+    template <typename Kind>
+    Kind& control(const std::string& name) {
+        Control* found = current_->find(name);
+        if (!found)
+            throw std::logic_error("no control " + name);
+        return dynamic_cast<Kind&>(*found);
+    }
+
+    // All of these act on the window opened last.
+    void click(const std::string& name);
+    void enter(const std::string& name, const std::string& text);
+    void key(const std::string& name, Key::Kind kind);
+    void type(const std::string& name, const std::string& characters);
+    void choose(const std::string& list, const std::string& text);
+    void cell(const std::string& grid, long row, long col);
+    void rows(const std::vector<std::vector<std::string>>& rows);
+    /// One column of values.
+    void values(const std::vector<std::string>& column);
+
+    /// Text of a field or list; caption of anything else.
+    std::string text(const std::string& name);
+    std::string cellText(const std::string& grid, long row, long col);
+    /// Cells of a row joined by '|'.
+    std::string rowText(const std::string& grid, long row);
+    std::string focus();
+
+    /// The message boxes since the last call.
+    std::vector<Message> messages();
+    /// Text of the active document of the report window.
+    std::string report();
+    bool fatal(int number) const;
+    std::string file(const std::string& name) const { return (folder_ / name).string(); }
+
+private:
+    std::filesystem::path folder_;
+    Window* current_ = nullptr;
+};
+
+} // namespace caudalera
