@@ -1,9 +1,22 @@
 #include "shell/Program.h"
 
+#include "stats/frmParamEsta.h"
+
 namespace caudalera {
 
+namespace {
+
+template <typename Form>
+std::unique_ptr<Window> create(Program& program) {
+    return std::make_unique<Form>(program);
+}
+
+} // namespace
+
 const std::vector<WindowEntry>& ventanas() {
-    static const std::vector<WindowEntry> entries;
+    static const std::vector<WindowEntry> entries = {
+        {"frmParamEsta", create<frmParamEsta>},
+    };
     return entries;
 }
 

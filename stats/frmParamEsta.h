@@ -1,0 +1,53 @@
+#pragma once
+
+#include "shell/Series.h"
+#include "shell/Worksheet.h"
+#include "stats/parametrosComunes.h"
+
+namespace caudalera {
+
+/// Parameters of ungrouped data: of a sample, of a population and from linear moments.
+class frmParamEsta : public Worksheet {
+public:
+    explicit frmParamEsta(Program& program);
+
+    Label lblIngreso{*this, "lblIngreso", "Ingreso de datos:"};
+    Label lblNota{*this, "lblNota", "Nota:"};
+    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    Button bOrdenar{*this, "bOrdenar", "&Ordenar", "Mostrar serie ordenada"};
+    MSFlexGrid grdParam{*this, "grdParam"};
+    Frame fraCoeficientes{*this, "fraCoeficientes", "Coeficientes Lineales:"};
+    TextBox txtL1{*this, "txtL1", "L1:"};
+    TextBox txtL2{*this, "txtL2", "L2:"};
+    TextBox txtL3{*this, "txtL3", "L3:"};
+    TextBox txtL4{*this, "txtL4", "L4:"};
+    Label lblOrdenado{*this, "lblOrdenado", "Datos ordenados:"};
+    MSFlexGrid grdorden{*this, "grdorden"};
+
+protected:
+    void calcular() override;
+    void limpiar() override;
+    void escribirReporte(ReportWriter& reporte) override;
+    void reiniciarResultados() override;
+    void leerCuadricula() override;
+    void antesDeAccesar() override { borrarResultados(); }
+    Real elementoSerie(long columna, long i) const override;
+
+private:
+    void disponer();
+    void borrarResultados();
+    void reiniciarOrdenados(long filas);
+    void ordenar();
+    void mostrarOrdenados(bool visibles);
+    void ordenarSerie();
+    void escribirMomentos(const MomentosLineales& momentos);
+    void escribirParametros(const ParametrosComunes& muestrales,
+                            const ParametrosComunes& poblacionales,
+                            const MomentosLineales& momentos);
+    void escribirColumna(long columna, const std::vector<std::string>& textos);
+
+    Serie serieX;
+    Serie serieOrdenada;
+};
+
+} // namespace caudalera
