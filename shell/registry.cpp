@@ -1,5 +1,6 @@
 #include "shell/Program.h"
 
+#include "fitting/frmDisNormal.h"
 #include "stats/frmParamEsta.h"
 
 namespace caudalera {
@@ -16,6 +17,7 @@ std::unique_ptr<Window> create(Program& program) {
 const std::vector<WindowEntry>& ventanas() {
     static const std::vector<WindowEntry> entries = {
         {"frmParamEsta", create<frmParamEsta>},
+        {"frmDisNormal", create<frmDisNormal>},
     };
     return entries;
 }

@@ -1,0 +1,79 @@
+#include "fitting/FitWorksheet.h"
+#include "shell/Program.h"
+#include "shell/Text.h"
+
+namespace caudalera {
+
+namespace {
+
+constexpr auto LF = ReportWriter::LF;
+constexpr auto TAB = ReportWriter::TAB;
+
+} // namespace
+
+void FitWorksheet::escribirReporte(ReportWriter& reporte) {
+    reporteDeSerie(reporte);
+    reporteDelAjuste(reporte);
+    reporteDeParametros(reporte);
+
+    reporte << LF << LF << LF;
+    reporte.regla(30);
+    reporte << "Caudal de diseño:" << LF;
+    reporte.regla(30);
+    reporte << "El caudal de diseño para un periodo de retorno de " << txtxt.text() << " años, es "
+            << txtxq.text() << LF;
+}
+
+void FitWorksheet::reporteDeSerie(ReportWriter& reporte) const {
+    reporte << "Serie de datos X:" << LF << LF;
+    reporte.regla(40);
+    reporte << " N°" << TAB << TAB << " X" << TAB << TAB << LF;
+    reporte.regla(40);
+    reporte.filas(grdt, 1, program().variables.contadorLineas, "\t\t");
+    reporte.regla(40);
+    reporte << LF << LF << LF;
+}
+
+void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {
+    constexpr long anchoCelda = 18;
+    reporte << "Cálculos del ajuste Smirnov Kolmogorov:" << LF << LF;
+    reporte.regla(130);
+    reporte << "        m  " << TAB << "        X  " << TAB << "           P(X)  "
+            << "      ";
+    for (const auto titulo : texts_.titulosReporte)
+        reporte << titulo << "   ";
+    reporte << LF;
+    reporte.regla(130);
+    for (long fila = 1; fila <= program().variables.contadorLineas; ++fila) {
+        for (long col = 0; col < grddis.Cols(); ++col)
+            reporte << (fila == 1 ? " " : "") << centrado(grddis.TextMatrix(fila, col), anchoCelda);
+        reporte << LF;
+    }
+    reporte.regla(130);
+    reporte << LF;
+    reporte.regla(55);
+    reporte << lblAjuste.caption << LF;
+    reporte.regla(55);
+    reporte << lblmensaje.caption << LF << LF;
+    reporte.regla(55);
+    reporte << LF;
+}
+
+void FitWorksheet::reporteDeParametros(ReportWriter& reporte) const {
+    const auto lineas = [&](const std::vector<Parametro>& parametros) {
+        for (const Parametro& each : parametros)
+            reporte << each.linea << each.campo->text() << LF;
+    };
+    reporte << texts_.tituloParametros << LF;
+    reporte.regla(texts_.guionesParametros);
+    if (!texts_.momentosLineales) {
+        lineas(ordinarios);
+        return;
+    }
+    reporte << "Con momentos ordinarios:" << LF;
+    lineas(ordinarios);
+    reporte << LF << "Con momentos lineales:" << LF;
+    lineas(lineales);
+}
+
+} // namespace caudalera

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace caudalera {
+
+/// The texts and masks in which the windows of the distributions differ, and whether a window has
+/// linear moments.
+struct FitTexts {
+    bool momentosLineales = true;
+    /// Name of the distribution in the verdict.
+    std::string_view distribucion;
+
+    std::string_view marcoParametros;
+    /// Heading of the parameters in the report, and the length of the rule below it.
+    std::string_view tituloParametros;
+    long guionesParametros = 55;
+
+    /// Headers of columns 3 and 4 of `grddis`, and the last three titles of the report's table.
+    std::array<std::string_view, 2> encabezados;
+    std::array<std::string_view, 3> titulosReporte;
+    /// One for each series of the chart.
+    std::vector<std::string_view> leyendas;
+
+    std::string_view mascaraPeriodo;
+    std::string_view mascaraProbabilidad;
+    std::string_view mascaraTeorico = "#####0.###0";
+    std::string_view mascaraTabular = "###0.###0";
+
+    std::string_view falloCalculo = "Ingresar datos adecuadamente ";
+    std::string_view excedenciaSinCalculo =
+        "Efectuar cálculos antes de evaluar la probabilidad de no excedencia";
+};
+
+} // namespace caudalera

@@ -1,0 +1,281 @@
+#include "fitting/FitWorksheet.h"
+
+#include "fitting/smirnovKolmogorov.h"
+#include "shell/Text.h"
+
+namespace caudalera {
+
+namespace {
+
+constexpr std::string_view mascaraValor = "#####0.0###";
+constexpr std::string_view mascaraAcumulada = "#####0.0##0";
+constexpr std::string_view mascaraCaudal = "#####0.#0";
+
+} // namespace
+
+FitWorksheet::FitWorksheet(Program& program, std::string name, std::string text,
+                           const FitTexts& texts)
+    : Worksheet(program, std::move(name), std::move(text), "N°"),
+      fraParametros(*this, "fraParametros", std::string(texts.marcoParametros)), texts_(texts) {
+    if (texts.momentosLineales)
+        tipoDeAjuste.emplace(*this);
+    opt005.preset(true);
+    grddis.columnWidths = {700, 1000, 1000, 1200, 1300, 1000};
+    grddis.columnAlignments.assign(6, MSFlexGrid::ColumnAlignment::center);
+    grddis.visibleRows = 8;
+    bGraficar.onClick = [this] { graficar(); };
+    bQ.onClick = [this] { evaluarQ(); };
+    bT.onClick = [this] { evaluarCaudal(Evaluacion::T); };
+    bPmayor.onClick = [this] { evaluarCaudal(Evaluacion::Pmayor); };
+    bPmenor.onClick = [this] { evaluarCaudal(Evaluacion::Pmenor); };
+}
+
+void FitWorksheet::disponer(Layout camposDeParametros) {
+    using namespace layout;
+    lblIngreso.heading = true;
+    lblNota.heading = true;
+    lblNotaEnter.wraps = true;
+    lblAjuste.heading = true;
+    lblmensaje.wraps = true;
+    for (const Parametro* each : parametros()) {
+        each->campo->result = true;
+        each->campo->width = 12;
+    }
+    txtxp.result = true;
+    for (TextBox* campo : {&txtxq, &txtxt, &txtxp})
+        campo->width = 12;
+
+    std::vector<Layout> elecciones;
+    if (tipoDeAjuste) {
+        elecciones.push_back(
+            frame(tipoDeAjuste->fraTipoAjuste,
+                  list({&tipoDeAjuste->optOrdinario, &tipoDeAjuste->optMomentoLi})));
+    }
+    elecciones.push_back(
+        frame(fraNivel, row({control(opt020), control(opt010), control(opt005), control(opt001)})));
+    elecciones.push_back(frame(fraParametros, std::move(camposDeParametros)));
+    elecciones.push_back(
+        frame(fraCaudal, column({fields({txtxq, txtxt, txtxp}), buttons({&bQ, &bT}),
+                                 buttons({&bPmayor, &bPmenor})})));
+    layout = row({
+        column({control(lblIngreso), control(grdt).stretched(), control(lblNota),
+                control(lblNotaEnter)}),
+        column(std::move(elecciones)),
+        column(
+            {control(grddis), control(lblAjuste), control(lblmensaje), control(Graph1).stretched()})
+            .stretched(),
+    });
+    commands = {{&Frame6, {&bCalcular, &bGraficar, &bLimpiar, &bImprimir}},
+                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
+                {nullptr, {&bCalculadora, &bMenu}}};
+}
+
+std::vector<const FitWorksheet::Parametro*> FitWorksheet::parametros() const {
+    std::vector<const Parametro*> all;
+    for (const auto* kind : {&ordinarios, &lineales}) {
+        for (const Parametro& each : *kind)
+            all.push_back(&each);
+    }
+    return all;
+}
+
+void FitWorksheet::reiniciarResultados() {
+    grddis.reset(500, 6, 1, 0);
+    grddis.setHeaders({"m", "X", "P(X)", std::string(texts_.encabezados[0]),
+                       std::string(texts_.encabezados[1]), "Delta"});
+}
+
+void FitWorksheet::borrarCampos() {
+    for (TextBox* campo : {&txtxq, &txtxt, &txtxp})
+        campo->setText({});
+    for (const Parametro* each : parametros())
+        each->campo->setText({});
+    ajusteCalculado = false;
+    lblmensaje.caption.clear();
+    lblAjuste.caption = "Ajuste:";
+}
+
+void FitWorksheet::limpiar() {
+    reiniciarCuadricula();
+    reiniciarResultados();
+    borrarCampos();
+    Graph1.clear();
+}
+
+void FitWorksheet::antesDeAccesar() {
+    reiniciarResultados();
+    Graph1.clear();
+    borrarCampos();
+}
+
+void FitWorksheet::leerCuadricula() {
+    n = contarFilas();
+    conteoDatos = n;
+    for (long i = 1; i <= conteoDatos; ++i)
+        serieDatos[i] = valorCelda(i, 1);
+}
+
+Real FitWorksheet::elementoSerie(long /*columna*/, long i) const {
+    return serieDatos[i];
+}
+
+FitWorksheet::Momentos FitWorksheet::tipoElegido() const {
+    return tipoDeAjuste && tipoDeAjuste->optMomentoLi.checked() ? Momentos::lineales
+                                                                : Momentos::ordinarios;
+}
+
+void FitWorksheet::mensajeDeError(std::string_view texto) const {
+    mensaje(std::string(texto), "Mensaje de Error", Icon::error);
+}
+
+void FitWorksheet::calcular() {
+    conTrampa([this] { ajustar(); },
+              [this](const RuntimeFailure&) {
+                  mensaje(std::string(texts_.falloCalculo), "Mensaje de error", Icon::information);
+              });
+}
+
+void FitWorksheet::ajustar() {
+    leerCuadricula();
+    if (!admitirSerie())
+        return;
+    for (long i = 1; i <= conteoDatos; ++i)
+        serieOrdenada[i] = serieDatos[i];
+    ordenarAscendente(serieOrdenada, conteoDatos);
+    if (!admitirOrdenada())
+        return;
+    for (long m = 1; m <= conteoDatos; ++m)
+        probEmpirica[m] = posicionWeibull(m, conteoDatos);
+    calcularParametros();
+    calcularAcumuladas();
+    escribirParametros();
+    antesDelAjuste();
+    probarAjuste();
+    trasElAjuste();
+    ajusteCalculado = true;
+}
+
+void FitWorksheet::escribirParametros() {
+    for (const Parametro* each : parametros())
+        each->campo->setText(formatear(*each->valor, mascaraValor));
+}
+
+void FitWorksheet::probarAjuste() {
+    const bool conLineales = tipoElegido() == Momentos::lineales;
+    lblAjuste.caption =
+        conLineales ? "Ajuste con momentos lineales:" : "Ajuste con momentos ordinarios:";
+    const SerieConOrigen& acumuladaElegida = conLineales ? acumLineal : acumOrdinaria;
+    for (long m = 1; m <= conteoDatos; ++m)
+        delta[m] = Abs(probEmpirica[m] - acumuladaElegida[m]);
+    const Real teorico = deltaTeorico(delta, conteoDatos);
+    escribirResultados();
+    escribirVeredicto(teorico);
+}
+
+void FitWorksheet::escribirResultados() {
+    for (long m = 1; m <= conteoDatos; ++m) {
+        grddis.setTextMatrix(m, 0, textoPlano(m));
+        grddis.setTextMatrix(m, 1, formatear(serieOrdenada[m], mascaraValor));
+        grddis.setTextMatrix(m, 2, formatear(probEmpirica[m], mascaraAcumulada));
+        grddis.setTextMatrix(m, 3, formatear((*columnas[0])[m], mascaraAcumulada));
+        grddis.setTextMatrix(m, 4, formatear((*columnas[1])[m], mascaraAcumulada));
+        grddis.setTextMatrix(m, 5, formatear(delta[m], mascaraAcumulada));
+    }
+    grddis.clearRowsFrom(conteoDatos + 1);
+}
+
+void FitWorksheet::escribirVeredicto(Real teorico) {
+    struct Nivel {
+        const Option& opcion;
+        double coeficiente;
+        const char* texto;
+    };
+    const std::array<Nivel, 4> todos{{{opt020, 1.07, " 20%"},
+                                      {opt010, 1.22, " 10%"},
+                                      {opt005, 1.36, " 5%"},
+                                      {opt001, 1.63, " 1%"}}};
+    for (const Nivel& nivel : todos) {
+        if (!nivel.opcion.checked())
+            continue;
+        const Real tabular = deltaTabular(nivel.coeficiente, conteoDatos);
+        const bool ajusta = seAjusta(teorico, tabular);
+        lblmensaje.caption =
+            "Como el delta teórico " + formatear(teorico, texts_.mascaraTeorico) +
+            (ajusta ? ", es menor que el delta tabular " : ", es mayor que el delta tabular ") +
+            formatear(tabular, texts_.mascaraTabular) +
+            (ajusta ? ". Los datos se ajustan a la distribución "
+                    : ". Los datos no se ajustan a la distribución ") +
+            std::string(texts_.distribucion) + ", con un nivel de significación del" + nivel.texto;
+    }
+}
+
+void FitWorksheet::graficar() {
+    if (!ajusteCalculado) {
+        mensajeDeError("Efectuar cálculos antes de graficar");
+        return;
+    }
+    if (conteoDatos <= 1) {
+        mensaje("Para graficar se requiere por lo menos dos puntos", "Error", Icon::error);
+        return;
+    }
+    LineChart chart;
+    chart.x.emplace(1, 0.0);
+    for (long m = 1; m <= conteoDatos; ++m)
+        chart.x->push_back(serieOrdenada[m].value());
+    for (std::size_t i = 0; i < curvas.size(); ++i) {
+        SerieConOrigen& curva = *curvas[i];
+        curva[0] = 0;
+        Graph::Series series{std::string(texts_.leyendas.at(i)), {}};
+        for (long m = 0; m <= conteoDatos; ++m)
+            series.y.push_back(curva[m].value());
+        chart.series.push_back(std::move(series));
+    }
+    dibujarLineas(Graph1, std::move(chart));
+}
+
+bool FitWorksheet::admitirMandato(std::string_view sinCalculo, const TextBox& campo,
+                                  std::string_view campoVacio) {
+    if (!ajusteCalculado) {
+        mensajeDeError(sinCalculo);
+        return false;
+    }
+    if (campo.text().empty()) {
+        mensajeDeError(campoVacio);
+        return false;
+    }
+    return admitirEvaluacion(tipoElegido());
+}
+
+void FitWorksheet::evaluarQ() {
+    if (!admitirMandato("Efectuar cálculos antes de evaluar caudal de diseño", txtxt,
+                        "Ingresar un valor de T, antes de evaluar"))
+        return;
+    const Real T = Val(txtxt.text());
+    const Real p = 1 - 1 / T;
+    txtxq.setText(formatear(inversa(tipoElegido(), p), mascaraCaudal));
+}
+
+void FitWorksheet::evaluarCaudal(Evaluacion cual) {
+    std::string_view sinCalculo = texts_.excedenciaSinCalculo;
+    if (cual == Evaluacion::T) {
+        sinCalculo = "Efectuar cálculos antes de evaluar el período de retorno";
+    } else if (cual == Evaluacion::Pmenor) {
+        sinCalculo = "Efectuar cálculos antes de evaluar la probabilidad de no excedencia";
+    }
+    if (!admitirMandato(sinCalculo, txtxq, "Ingresar un valor para Q, antes de evaluar"))
+        return;
+    const Momentos tipo = tipoElegido();
+    const Real q = Val(txtxq.text());
+    if (!admitirCaudal(cual, tipo, q))
+        return;
+    const Real F = acumulada(tipo, q);
+    if (cual == Evaluacion::T) {
+        txtxt.setText(formatear(1 / (1 - F), texts_.mascaraPeriodo));
+    } else if (cual == Evaluacion::Pmayor) {
+        txtxp.setText(formatear((1 - F) * 100, texts_.mascaraProbabilidad));
+    } else {
+        txtxp.setText(formatear(F * 100, texts_.mascaraProbabilidad));
+    }
+}
+
+} // namespace caudalera

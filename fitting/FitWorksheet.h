@@ -1,0 +1,150 @@
+#pragma once
+
+#include "fitting/FitTexts.h"
+#include "shell/Graph.h"
+#include "shell/Series.h"
+#include "shell/Worksheet.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace caudalera {
+
+/// The template of the windows that fit a distribution to a series: empirical probabilities,
+/// parameters, theoretical probabilities, the Smirnov-Kolmogorov test, and the four questions to
+/// the fitted distribution. A window supplies its texts and masks, the checks of its series, its
+/// parameters, its cumulative function and the inverse of that.
+class FitWorksheet : public Worksheet {
+public:
+    FitWorksheet(Program& program, std::string name, std::string caption, const FitTexts& texts);
+
+    Label lblIngreso{*this, "lblIngreso", "Ingreso de datos:"};
+    Label lblNota{*this, "lblNota", "Nota:"};
+    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    Button bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+
+    /// Choice of the kind of moments, in the windows that have linear moments.
+    struct TipoDeAjuste {
+        explicit TipoDeAjuste(Window& window) : ventana(window) { optOrdinario.preset(true); }
+
+        Window& ventana;
+        Frame fraTipoAjuste{ventana, "fraTipoAjuste", "Tipo de ajuste:"};
+        OptionGroup grupo;
+        Option optOrdinario{ventana, "optOrdinario", "Parámetros ordinarios", grupo};
+        Option optMomentoLi{ventana, "optMomentoLi", "Momentos lineales", grupo};
+    };
+    std::optional<TipoDeAjuste> tipoDeAjuste;
+
+    Frame fraNivel{*this, "fraNivel", "Nivel significación:"};
+    OptionGroup niveles;
+    Option opt020{*this, "opt020", "0.20", niveles};
+    Option opt010{*this, "opt010", "0.10", niveles};
+    Option opt005{*this, "opt005", "0.05", niveles};
+    Option opt001{*this, "opt001", "0.01", niveles};
+
+    Frame fraParametros;
+
+    Frame fraCaudal{*this, "fraCaudal", "Caudal de diseño:"};
+    TextBox txtxq{*this, "txtxq", "Caudal (Q):", "m3/s"};
+    TextBox txtxt{*this, "txtxt", "Período de retorno (T):"};
+    TextBox txtxp{*this, "txtxp", "Probabilidad (P):", "%"};
+    Button bQ{*this, "bQ", "Q=f(T)", "Caudal de diseño"};
+    Button bT{*this, "bT", "T=f(Q)", "Periodo de retorno"};
+    Button bPmayor{*this, "bPmayor", "P(Q>q)", "Probabilidad de excedencia"};
+    Button bPmenor{*this, "bPmenor", "P(Q<q)", "Probabilidad de no excedencia"};
+
+    MSFlexGrid grddis{*this, "grddis"};
+    Label lblAjuste{*this, "lblAjuste", "Ajuste:"};
+    Label lblmensaje{*this, "lblmensaje", ""};
+    Graph Graph1{*this, "Graph1"};
+
+protected:
+    enum class Momentos { ordinarios, lineales };
+    enum class Evaluacion { Q, T, Pmayor, Pmenor };
+
+    /// A parameter of the distribution: where it is held and shown, and its line in the report.
+    struct Parametro {
+        Real* valor;
+        TextBox* campo;
+        std::string_view linea;
+    };
+
+    // What a window sets when it is built.
+    std::vector<Parametro> ordinarios;
+    std::vector<Parametro> lineales;
+    /// What columns 3 and 4 of `grddis` show.
+    std::array<const SerieConOrigen*, 2> columnas{&acumOrdinaria, &acumLineal};
+    /// What the chart draws, in the order of the legends.
+    std::vector<SerieConOrigen*> curvas{&probEmpirica, &acumOrdinaria, &acumLineal};
+    /// Sets the layout and the commands, with the parameter fields as they stand in their frame.
+    void disponer(Layout camposDeParametros);
+
+    // What a window supplies to `bCalcular`, in the order of the steps.
+    /// Looks at the series in input order; false, after its message, ends the command.
+    virtual bool admitirSerie() { return true; }
+    /// The same for the sorted series.
+    virtual bool admitirOrdenada() { return true; }
+    /// Fills the parameters one after another, so that a failure leaves those before it.
+    virtual void calcularParametros() = 0;
+    /// Fills the cumulative arrays, after all reduced variates.
+    virtual void calcularAcumuladas() = 0;
+    /// Before the test and behind it.
+    virtual void antesDelAjuste() {}
+    virtual void trasElAjuste() {}
+
+    // What a window supplies to the evaluation commands.
+    /// Whether the parameters can answer at all; false, after its message, ends the command.
+    virtual bool admitirEvaluacion(Momentos /*tipo*/) { return true; }
+    /// The same for the flow that T, Pmayor or Pmenor asks about.
+    virtual bool admitirCaudal(Evaluacion /*cual*/, Momentos /*tipo*/, Real /*q*/) { return true; }
+    /// Probability of non-exceedance F(q).
+    virtual Real acumulada(Momentos tipo, Real q) = 0;
+    /// Flow of a probability of non-exceedance.
+    virtual Real inversa(Momentos tipo, Real p) = 0;
+
+    /// As the options stand now.
+    Momentos tipoElegido() const;
+
+    void calcular() override;
+    void limpiar() override;
+    void escribirReporte(ReportWriter& reporte) override;
+    void reiniciarResultados() override;
+    void antesDeAccesar() override;
+    void leerCuadricula() override;
+    Real elementoSerie(long columna, long i) const override;
+
+    /// Rows of data at the last `bCalcular` or `bCrear`.
+    Integer16 conteoDatos;
+    Serie serieDatos;
+    Serie serieOrdenada;
+    SerieConOrigen probEmpirica;
+    SerieConOrigen acumOrdinaria;
+    SerieConOrigen acumLineal;
+    Serie delta;
+    bool ajusteCalculado = false;
+
+private:
+    void ajustar();
+    void escribirParametros();
+    void probarAjuste();
+    void escribirResultados();
+    void escribirVeredicto(Real teorico);
+    void borrarCampos();
+    void graficar();
+    void evaluarQ();
+    void evaluarCaudal(Evaluacion cual);
+    bool admitirMandato(std::string_view sinCalculo, const TextBox& campo,
+                        std::string_view campoVacio);
+    void mensajeDeError(std::string_view texto) const;
+    std::vector<const Parametro*> parametros() const;
+
+    void reporteDeSerie(ReportWriter& reporte) const;
+    void reporteDelAjuste(ReportWriter& reporte) const;
+    void reporteDeParametros(ReportWriter& reporte) const;
+
+    const FitTexts& texts_;
+};
+
+} // namespace caudalera
