@@ -1,6 +1,7 @@
 #include "shell/Program.h"
 
 #include "fitting/frmDisNormal.h"
+#include "regression/frmEjRegSimple.h"
 #include "stats/frmParamEsta.h"
 
 namespace caudalera {
@@ -17,6 +18,7 @@ std::unique_ptr<Window> create(Program& program) {
 const std::vector<WindowEntry>& ventanas() {
     static const std::vector<WindowEntry> entries = {
         {"frmParamEsta", create<frmParamEsta>},
+        {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
     };
     return entries;

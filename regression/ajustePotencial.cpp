@@ -1,0 +1,41 @@
+#include "regression/ajustePotencial.h"
+
+#include "regression/gaussJordan.h"
+
+namespace caudalera {
+
+SumasLogaritmicas sumasLogaritmicas(const std::vector<TrioIntensidad>& trios) {
+    SumasLogaritmicas s;
+    for (const TrioIntensidad& trio : trios) {
+        const Real x1 = Log(trio.T);
+        const Real x2 = Log(trio.D);
+        const Real y = Log(trio.Imax);
+        s.n += 1;
+        s.x1 += x1;
+        s.x2 += x2;
+        s.y += y;
+        s.x1x1 += Pow(x1, 2);
+        s.x2x2 += Pow(x2, 2);
+        s.yy += Pow(y, 2);
+        s.x1x2 += x1 * x2;
+        s.x1y += x1 * y;
+        s.x2y += x2 * y;
+    }
+    return s;
+}
+
+Real AjustePotencial::intensidad(Real T, Real D) const {
+    return (K * Pow(T, m)) * Pow(D, n);
+}
+
+std::optional<AjustePotencial> ajustePotencial(const std::vector<TrioIntensidad>& trios) {
+    const SumasLogaritmicas s = sumasLogaritmicas(trios);
+    const auto solucion = gaussJordan(
+        {{s.n, s.x1, s.x2, s.y}, {s.x1, s.x1x1, s.x1x2, s.x1y}, {s.x2, s.x1x2, s.x2x2, s.x2y}});
+    if (!solucion)
+        return std::nullopt;
+    const Real lnK = (*solucion)[0];
+    return AjustePotencial{s, lnK, Exp(lnK), (*solucion)[1], (*solucion)[2]};
+}
+
+} // namespace caudalera

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "shell/Real.h"
+
+#include <optional>
+#include <vector>
+
+namespace caudalera {
+
+/// Fewer records than this are not fitted, which a window tells by the text.
+inline constexpr long minimoTrios = 4;
+inline constexpr const char* mensajeCuatroTrios =
+    "Para el ajuste a la ecuación se requiere por lo menos cuatro tríos de datos";
+
+/// One record of rainfall: the largest intensity (mm/hr) of a duration D (minutes) that comes back
+/// once in T years.
+struct TrioIntensidad {
+    Real T;
+    Real D;
+    Real Imax;
+};
+
+/// Sums over the records of x1 = ln T, x2 = ln D and y = ln Imax, taken in the records' order.
+struct SumasLogaritmicas {
+    Real n;
+    Real x1, x2, y;
+    Real x1x1, x2x2, yy;
+    Real x1x2, x1y, x2y;
+};
+
+/// Failure 5 for a value of 0 or less.
+SumasLogaritmicas sumasLogaritmicas(const std::vector<TrioIntensidad>& trios);
+
+/// The equation Imax = K * T^m * D^n that fits a set of records.
+struct AjustePotencial {
+    SumasLogaritmicas sumas;
+    /// ln K, the constant of the equation between the logarithms.
+    Real lnK;
+    Real K, m, n;
+
+    /// Intensity (mm/hr) for a return period T (years) and a duration D (minutes), as (K*T^m)*D^n.
+    /// Failure 5 for 0 to a negative power and a fractional power of a negative, 6 past the range.
+    Real intensidad(Real T, Real D) const;
+};
+
+/// Least squares of the logarithms: ln Imax = ln K + m ln T + n ln D, from its normal equations.
+/// None if their system is singular. Failure 5 if a value is 0 or less, 6 for a K past the double
+/// range. Source: Chow, Maidment and Mays, Applied Hydrology (1988), section 14.2, for the form of
+/// the equation; Draper and Smith, Applied Regression Analysis, for the normal equations.
+std::optional<AjustePotencial> ajustePotencial(const std::vector<TrioIntensidad>& trios);
+
+} // namespace caudalera

@@ -1,0 +1,238 @@
+#include "regression/frmEjRegSimple.h"
+
+#include "regression/textosRegresion.h"
+#include "shell/Text.h"
+
+#include <string_view>
+#include <utility>
+
+namespace caudalera {
+
+namespace {
+
+constexpr std::string_view mascaraCoeficiente = "#0.0######";
+constexpr std::string_view mascaraCorrelacion = "#0.0####";
+constexpr std::string_view mascaraY = "#0.0000";
+constexpr std::array nombresEcuaciones = {"Lineal", "Exponencial", "Potencial"};
+constexpr const char* rotuloEcuacion = "Ecuación:";
+
+} // namespace
+
+frmEjRegSimple::frmEjRegSimple(Program& program)
+    : Worksheet(program, "frmEjRegSimple", "Cálculos con ecuaciones de Regresión Simple", "Par") {
+    bGraficar.onClick = [this] { graficar(); };
+    bLimpiarDatos.onClick = [this] { limpiarDatos(); };
+    optLineal.onClick = [this] { evaluar(lineal); };
+    optExponencial.onClick = [this] { evaluar(exponencial); };
+    optPotencial.onClick = [this] { evaluar(potencial); };
+    txtvxx.onChange = [this] {
+        ecuacionElegida.clear();
+        txtvyy.setText({});
+    };
+    txtvxx.onEnter = [this] { optLineal.set(); };
+    disponer();
+}
+
+void frmEjRegSimple::disponer() {
+    using namespace layout;
+    using Column = MSFlexGrid::ColumnAlignment;
+    lblIngreso.heading = true;
+    lblNota.heading = true;
+    lblNotaEnter.wraps = true;
+    txtvxx.width = 14;
+    txtvyy.width = 14;
+    txtvyy.result = true;
+    grdecua.columnWidths = {1500, 4800, 1300, 1300};
+    grdecua.columnAlignments = {Column::left, Column::left, Column::center, Column::center};
+    grdecua.visibleRows = static_cast<int>(numEcuaciones);
+    layout = row({
+        column({control(lblIngreso), control(grdt).stretched(), control(lblNota),
+                control(lblNotaEnter)}),
+        column({control(grdecua),
+                frame(fraAplicar, row({column({control(lblCalculoY), fields({txtvxx, txtvyy})}),
+                                       list({&optLineal, &optExponencial, &optPotencial}),
+                                       buttons({&bLimpiarDatos})})),
+                control(Graph1).stretched()})
+            .stretched(),
+    });
+    commands = {{&Frame6, {&bCalcular, &bGraficar, &bLimpiar, &bImprimir}},
+                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
+                {nullptr, {&bCalculadora, &bMenu}}};
+}
+
+void frmEjRegSimple::reiniciarResultados() {
+    grdecua.reset(numEcuaciones + 1, 4, 1, 0);
+    grdecua.setHeaders({"Correlación", "Ecuación", "R", "R2"});
+}
+
+void frmEjRegSimple::borrarResultados() {
+    reiniciarResultados();
+    txtvxx.setText({});
+    txtvyy.setText({});
+    lblCalculoY.caption = rotuloEcuacion;
+    calculado_ = false;
+    Graph1.clear();
+}
+
+void frmEjRegSimple::limpiar() {
+    reiniciarCuadricula();
+    borrarResultados();
+}
+
+void frmEjRegSimple::trasAccesar() {
+    borrarResultados();
+    ecuacionElegida.clear();
+}
+
+void frmEjRegSimple::limpiarDatos() {
+    txtvxx.setText({});
+    txtvyy.setText({});
+    ecuacionElegida.clear();
+    setFocus(txtvxx);
+}
+
+void frmEjRegSimple::leerCuadricula() {
+    n = contarFilas();
+    for (long i = 1; i <= n; ++i) {
+        X_[i] = valorCelda(i, 1);
+        Y_[i] = valorCelda(i, 2);
+    }
+}
+
+Real frmEjRegSimple::elementoSerie(long columna, long i) const {
+    return columna == 1 ? X_[i] : Y_[i];
+}
+
+std::vector<Real> frmEjRegSimple::valores(const Serie250& serie) const {
+    std::vector<Real> lista;
+    for (long i = 1; i <= n; ++i)
+        lista.push_back(serie[i]);
+    return lista;
+}
+
+void frmEjRegSimple::calcular() {
+    conTrampa([this] { ajustar(); },
+              [this](const RuntimeFailure&) {
+                  mensaje("Ingresó valores para X ó Y iguales a 0 ó negativos. Estos valores no "
+                          "permiten la correlación exponencial ni potencial. ¡Hacer la corrección "
+                          "correspondiente!");
+              });
+}
+
+void frmEjRegSimple::ajustar() {
+    leerCuadricula();
+    if (n <= 1) {
+        mensaje(mensajeAjusteDosPuntos, "Error", Icon::error);
+        setFocus(grdt);
+        calculado_ = true;
+        return;
+    }
+    const auto x = valores(X_);
+    const auto y = valores(Y_);
+    const auto lnY = logaritmos(y);
+    const AjusteLineal recta = ajusteLineal(x, y);
+    const AjusteLineal curvaExponencial = ajusteLineal(x, lnY);
+    const AjusteLineal curvaPotencial = ajusteLineal(logaritmos(x), lnY);
+    // Nothing is kept or shown before all three have succeeded.
+    coeficientes_ = {
+        Coeficientes{recta.intercepto, recta.pendiente},
+        Coeficientes{Exp(curvaExponencial.intercepto), Exp(curvaExponencial.pendiente)},
+        Coeficientes{Exp(curvaPotencial.intercepto), curvaPotencial.pendiente}};
+    escribirFila(lineal, recta);
+    escribirFila(exponencial, curvaExponencial);
+    escribirFila(potencial, curvaPotencial);
+    calculado_ = true;
+}
+
+void frmEjRegSimple::escribirFila(Ecuacion ecuacion, const AjusteLineal& ajuste) {
+    const long fila = ecuacion + 1;
+    grdecua.setTextMatrix(fila, 0, nombresEcuaciones[ecuacion]);
+    grdecua.setTextMatrix(fila, 1, textoEcuacion(ecuacion));
+    grdecua.setTextMatrix(fila, 2, formatear(ajuste.r, mascaraCorrelacion));
+    grdecua.setTextMatrix(fila, 3, formatear(ajuste.r2, mascaraCorrelacion));
+}
+
+std::string frmEjRegSimple::textoEcuacion(Ecuacion ecuacion) const {
+    const std::string a = formatear(coeficientes_[ecuacion].a, mascaraCoeficiente);
+    const std::string b = formatear(coeficientes_[ecuacion].b, mascaraCoeficiente);
+    if (ecuacion == lineal)
+        return textoRecta(a, b);
+    if (ecuacion == exponencial)
+        return "Y = " + a + " * ( " + b + " ) " + " ^ X";
+    return "Y = " + a + " *  X ^ (" + b + ")";
+}
+
+void frmEjRegSimple::evaluar(Ecuacion ecuacion) {
+    if (!calculado_) {
+        mensaje("Antes de hallar valor de Y, efectuar los cálculos de correlación");
+        return;
+    }
+    if (txtvxx.text().empty()) {
+        mensaje("Ingresar un valor adecuado para X");
+        setFocus(txtvxx);
+        return;
+    }
+    lblCalculoY.caption = std::string("Ecuación ") + nombresEcuaciones[ecuacion];
+    txtvyy.setText(formatear(valorDeY(ecuacion, Val(txtvxx.text())), mascaraY));
+}
+
+Real frmEjRegSimple::valorDeY(Ecuacion ecuacion, Real x) const {
+    const auto [a, b] = coeficientes_[ecuacion];
+    if (ecuacion == lineal)
+        return a + b * x;
+    if (ecuacion == exponencial)
+        return a * Pow(b, x);
+    return a * Pow(x, b);
+}
+
+void frmEjRegSimple::graficar() {
+    leerCuadricula();
+    if (n <= 1) {
+        mensaje(mensajeGraficoDosPuntos, "Error", Icon::error);
+        setFocus(grdt);
+        return;
+    }
+    LineChart grafico;
+    grafico.style = 1;
+    grafico.autoAdvance = false;
+    grafico.x.emplace();
+    grafico.series.emplace_back();
+    for (long i = 1; i <= n; ++i) {
+        grafico.x->push_back(X_[i].value());
+        grafico.series.front().y.push_back(Y_[i].value());
+    }
+    dibujarLineas(Graph1, std::move(grafico));
+}
+
+void frmEjRegSimple::escribirReporte(ReportWriter& reporte) {
+    constexpr auto LF = ReportWriter::LF;
+    constexpr auto TAB = ReportWriter::TAB;
+    constexpr long guionesPares = 75;
+    constexpr long guionesEcuaciones = 109;
+    constexpr long columnaR = 2;
+
+    escribirTablaDatos(reporte, "Pares de datos X,Y:", " Par\t\t X\t\t Y\t\t", grdt,
+                       filasDelReporte(), guionesPares);
+
+    reporte << "Ecuaciones de ajuste de pares de datos:" << LF << LF;
+    reporte.regla(guionesEcuaciones);
+    reporte << " Tipo    " << TAB << TAB << " Ecuación" << TAB << TAB << " R       " << TAB << TAB
+            << " R^2     " << TAB << TAB << LF;
+    reporte.regla(guionesEcuaciones);
+    // The filling differs between the rows so that the columns stand under one another.
+    reporte.filas(grdecua, 1, 1, "  \t");
+    for (long fila = 2; fila <= numEcuaciones; ++fila) {
+        for (long col = 0; col < grdecua.Cols(); ++col)
+            reporte << grdecua.TextMatrix(fila, col) << blancos(col == columnaR ? 5 : 0) << TAB;
+        reporte << LF;
+    }
+    reporte.regla(guionesEcuaciones);
+    reporte << LF;
+
+    reporte << "Cálculo de Y para un valor de X:" << LF << LF;
+    reporte << lblCalculoY.caption << ":" << LF;
+    reporte << "Para X = " << txtvxx.text() << LF;
+    reporte << "El valor de Y es: Y = " << txtvyy.text() << LF;
+}
+
+} // namespace caudalera

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "regression/ajusteLineal.h"
+#include "shell/BoundedArray.h"
+#include "shell/Worksheet.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace caudalera {
+
+/// Simple regression: the linear, exponential and potential equations that fit pairs (X, Y), and
+/// Y by the equation that the user picks.
+class frmEjRegSimple : public Worksheet {
+public:
+    explicit frmEjRegSimple(Program& program);
+
+    Label lblIngreso{*this, "lblIngreso", "Ingreso de los pares de datos:"};
+    Label lblNota{*this, "lblNota", "Nota:"};
+    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    Button bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+    MSFlexGrid grdecua{*this, "grdecua"};
+    Frame fraAplicar{*this, "fraAplicar", "Aplicar ecuación:"};
+    TextBox txtvxx{*this, "txtvxx", "Valor de X:"};
+    Label lblCalculoY{*this, "lblCalculoY", "Ecuación:"};
+    OptionGroup ecuacionElegida;
+    Option optLineal{*this, "optLineal", "con ecuación Lineal", ecuacionElegida};
+    Option optExponencial{*this, "optExponencial", "con ecuación Exponencial", ecuacionElegida};
+    Option optPotencial{*this, "optPotencial", "con ecuación Potencial", ecuacionElegida};
+    TextBox txtvyy{*this, "txtvyy", "Valor de Y:"};
+    Button bLimpiarDatos{*this, "bLimpiarDatos", "Limpiar datos"};
+    Graph Graph1{*this, "Graph1"};
+
+protected:
+    void calcular() override;
+    void limpiar() override;
+    void escribirReporte(ReportWriter& reporte) override;
+    void reiniciarResultados() override;
+    void leerCuadricula() override;
+    Real elementoSerie(long columna, long i) const override;
+    // Here the results go once the file is loaded, so that a load that fails leaves them.
+    void antesDeAccesar() override {}
+    void trasAccesar() override;
+
+private:
+    using Serie250 = BoundedArray<Real, 1, 250>;
+    /// The equations in the order of the rows of `grdecua`.
+    enum Ecuacion { lineal, exponencial, potencial, numEcuaciones };
+    struct Coeficientes {
+        Real a;
+        Real b;
+    };
+
+    void disponer();
+    void ajustar();
+    /// The pairs' values of one column, as the last reading left them.
+    std::vector<Real> valores(const Serie250& serie) const;
+    void escribirFila(Ecuacion ecuacion, const AjusteLineal& ajuste);
+    std::string textoEcuacion(Ecuacion ecuacion) const;
+    void evaluar(Ecuacion ecuacion);
+    Real valorDeY(Ecuacion ecuacion, Real x) const;
+    void graficar();
+    void limpiarDatos();
+    void borrarResultados();
+
+    Serie250 X_;
+    Serie250 Y_;
+    std::array<Coeficientes, numEcuaciones> coeficientes_;
+    bool calculado_ = false;
+};
+
+} // namespace caudalera
