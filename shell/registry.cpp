@@ -1,6 +1,7 @@
 #include "shell/Program.h"
 
 #include "fitting/frmDisNormal.h"
+#include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
 #include "stats/frmParamEsta.h"
 
@@ -20,6 +21,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmParamEsta", create<frmParamEsta>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
+        {"frmQmaxRacional", create<frmQmaxRacional>},
     };
     return entries;
 }

@@ -1,0 +1,201 @@
+#include "peakflow/RainfallFlowWindow.h"
+
+#include "shell/Text.h"
+
+#include <utility>
+
+namespace caudalera {
+
+namespace {
+
+enum Pestana { pestanaQ, pestanaC, pestanaI };
+
+constexpr long filasDeGrupos = 50;
+constexpr long reglaDeResultados = 90;
+
+} // namespace
+
+RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::string text,
+                                       RainfallFlowTexts texts)
+    : IntensityWorksheet(program, std::move(name), std::move(text)), texts_(std::move(texts)) {
+    commands = {{&Frame6, {&bCalcular, &bLimpiar, &bImprimir}},
+                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
+                {nullptr, {&bCalculadora, &bMenu}}};
+    lblMensajeI.wraps = true;
+    lblZonasNoUrbanas.heading = true;
+    for (TextBox* resultado : {&txtqmax, &txtgrupo, &txtCponderado, &txtatotal})
+        resultado->result = true;
+    grdC.columnWidths = {900, 1200, 3400, 2000, 1300, 900};
+    grdC.visibleRows = 10;
+
+    soloNumeros(
+        {&txtcq, &txtaq, &txtiq, &txtqmax, &txtgrupo, &txtac, &txts, &txtCponderado, &txtatotal});
+    SSTab1.onClick = [this] { elegirPestana(); };
+    bAgregar.onClick = [this] { agregar(); };
+    bCponderado.onClick = [this] { ponderar(); };
+}
+
+void RainfallFlowWindow::load() {
+    Worksheet::load();
+    grupos_ = 0;
+    numerarGrupo();
+    setFocus(txtcq);
+}
+
+Layout RainfallFlowWindow::disposicion(std::vector<Layout::FieldLine> lineasQ,
+                                       std::vector<Layout::FieldLine> lineasGrupo) {
+    using namespace caudalera::layout;
+    return tabs(
+        SSTab1,
+        {
+            row({column({fields(std::move(lineasQ)), frame(fraResultadoQ, fields({txtqmax}))}),
+                 control(Picture1).stretched()}),
+            row({column({fields(std::move(lineasGrupo)), buttons({&bAgregar})}),
+                 column({control(grdC).stretched(),
+                         row({buttons({&bCponderado}),
+                              frame(fraResultadosC, fields({txtCponderado, txtatotal}))})})
+                     .stretched()}),
+            disposicionI(),
+        });
+}
+
+void RainfallFlowWindow::encadenar(const std::vector<Control*>& controles) {
+    for (std::size_t i = 0; i + 1 < controles.size(); ++i) {
+        if (auto* campo = dynamic_cast<TextBox*>(controles[i]))
+            campo->onEnter = [this, siguiente = controles[i + 1]] { setFocus(siguiente); };
+    }
+}
+
+void RainfallFlowWindow::elegirPestana() {
+    switch (SSTab1.tab()) {
+    case pestanaQ:
+        setFocus(txtcq);
+        break;
+    case pestanaC:
+        setFocus(txtac);
+        break;
+    default:
+        entrarEnI();
+    }
+}
+
+void RainfallFlowWindow::reiniciarResultados() {
+    grdC.reset(filasDeGrupos, 6, 1, 0);
+    grdC.setHeaders(texts_.groupHeaders);
+}
+
+void RainfallFlowWindow::reiniciarGrupos() {
+    grupos_ = 0;
+    numerarGrupo();
+    reiniciarResultados();
+}
+
+void RainfallFlowWindow::numerarGrupo() {
+    txtgrupo.setText(Str(static_cast<double>(grupos_ + 1)));
+}
+
+void RainfallFlowWindow::limpiar() {
+    if (SSTab1.tab() == pestanaI) {
+        limpiarI();
+        return;
+    }
+    if (SSTab1.tab() == pestanaC) {
+        reiniciarGrupos();
+        for (TextBox* campo : {&txtac, &txts, &txtCponderado, &txtatotal})
+            campo->setText({});
+        setFocus(txtac);
+        return;
+    }
+    for (const FlowField& campo : camposDeQ())
+        campo.box->setText({});
+    txtqmax.setText({});
+    setFocus(txtcq);
+}
+
+void RainfallFlowWindow::calcular() {
+    for (const auto& [campo, nombre] : camposDeQ()) {
+        if (!campo->text().empty())
+            continue;
+        mensaje("Ingresar un valor adecuado para " + nombre, "Error por dato inadecuado");
+        campo->setText({});
+        setFocus(campo);
+        return;
+    }
+    txtqmax.setText(formatear(caudal(), "0.##0"));
+}
+
+void RainfallFlowWindow::agregar() {
+    if (!grupoCompleto())
+        return;
+    ++grupos_;
+    areaGrupo_[grupos_] = toSingle(Val(txtac.text()));
+    const Group grupo = describirGrupo();
+    CGrupo_[grupos_] = toSingle(grupo.C);
+    grdC.setTextMatrix(grupos_, 0, textoPlano(long{grupos_}));
+    grdC.setTextMatrix(grupos_, 1, Str(areaGrupo_[grupos_]));
+    grdC.setTextMatrix(grupos_, 2, grupo.cover);
+    grdC.setTextMatrix(grupos_, 3, grupo.texture);
+    grdC.setTextMatrix(grupos_, 4, grupo.slope);
+    grdC.setTextMatrix(grupos_, 5, Str(CGrupo_[grupos_]));
+    numerarGrupo();
+    vaciarEntradaDeGrupo();
+    setFocus(txtac);
+}
+
+void RainfallFlowWindow::vaciarEntradaDeGrupo() {
+    txtac.setText({});
+    txts.setText({});
+}
+
+void RainfallFlowWindow::ponderar() {
+    float sumaCa = 0;
+    float sumaA = 0;
+    for (long i = 1; i <= grupos_; ++i) {
+        const Real a(areaGrupo_[i]);
+        sumaCa = toSingle(Real(sumaCa) + Real(CGrupo_[i]) * a);
+        sumaA = toSingle(Real(sumaA) + a);
+    }
+    const Real C = Real(sumaCa) / Real(sumaA);
+    txtCponderado.setText(formatear(C, "0.0#"));
+    txtcq.setText(txtCponderado.text());
+    txtatotal.setText(textoPlano(sumaA));
+    txtaq.setText(txtatotal.text());
+}
+
+void RainfallFlowWindow::escribirGrupos(ReportWriter& reporte) const {
+    constexpr std::string_view LF = ReportWriter::LF;
+    reporte << texts_.reportTitle << LF;
+    reporte.regla(texts_.reportRule);
+    reporte << texts_.reportHeading << LF;
+    reporte.regla(texts_.reportRule);
+    for (long i = 1; i <= grupos_; ++i) {
+        reporte << grdC.TextMatrix(i, 0) << blancos(5);
+        for (long col = 1; col < grdC.Cols(); ++col) {
+            const std::string& celda = grdC.TextMatrix(i, col);
+            const long ancho = texts_.reportWidths[static_cast<std::size_t>(col - 1)];
+            reporte << celda << blancos(ancho - static_cast<long>(longitud(celda)));
+        }
+        reporte << LF;
+    }
+    reporte.regla(texts_.reportRule);
+    reporte << LF;
+}
+
+void RainfallFlowWindow::escribirReporte(ReportWriter& reporte) {
+    constexpr std::string_view LF = ReportWriter::LF;
+    constexpr std::string_view sangria = "     ";
+    escribirGrupos(reporte);
+    reporte << blancos(25) << "C ponderado:" << txtCponderado.text() << LF;
+    reporte << blancos(27) << "Area total:" << txtatotal.text() << " has" << LF;
+    reporte << LF << "Cálculo del I máxima:" << LF << LF;
+    escribirReporteI(reporte);
+    reporte << "Resultados de los cálculos:" << LF;
+    reporte.regla(reglaDeResultados);
+    escribirDatosPrevios(reporte);
+    reporte << sangria << "Coeficiente C: " << txtcq.text() << LF;
+    reporte << sangria << "Área de la cuenca: " << txtaq.text() << " has" << LF;
+    reporte << sangria << "I máx: " << txtiq.text() << " mm/hr" << LF;
+    reporte << sangria << "Q máx: " << txtqmax.text() << " m3/s" << LF;
+}
+
+} // namespace caudalera

@@ -1,0 +1,81 @@
+#include "peakflow/frmQmaxRacional.h"
+
+#include "peakflow/runoffCoefficients.h"
+#include "shell/Text.h"
+
+namespace caudalera {
+
+namespace {
+
+/// Text of the list of urban surfaces while the group is not urban; none of its items.
+constexpr const char* sinZonaUrbana = "Zonas urbanas";
+
+RainfallFlowTexts textos() {
+    return {
+        .image = "racional",
+        .labelC = "Coeficiente C:",
+        .labelArea = "Área cuenca:",
+        .labelGroupArea = "Area (a):",
+        .covers = coberturasDelSuelo(),
+        .startCover = "Terrenos cultivados",
+        .textures = texturasDelSuelo(),
+        .startTexture = "Franco arenosa",
+        .groupHeaders = {"Grupo N°", "Área", "Cobertura", "Textura", "Pendiente", "C"},
+        .reportTitle = "Serie de datos de área, cobertura y de C parciales:",
+        .reportRule = 140,
+        .reportHeading = " N°\t Área\t Cobertura\t\t\t Textura\t\t Pendiente\t C",
+        .reportWidths = {10, 40, 22, 10, 10},
+    };
+}
+
+} // namespace
+
+frmQmaxRacional::frmQmaxRacional(Program& program)
+    : RainfallFlowWindow(program, "frmQmaxRacional",
+                         "Cálculo del caudal máximo utilizando el método Racional", textos()),
+      cboZUrbana(*this, "cboZUrbana", superficiesUrbanas(), sinZonaUrbana, "Zonas urbanas") {
+    layout = disposicion({txtcq, txtaq, txtiq, {nullptr, {&lblMensajeI}, nullptr}},
+                         {txtgrupo,
+                          txtac,
+                          {nullptr, {&lblZonasNoUrbanas}, nullptr},
+                          cboCobertura,
+                          cboTextura,
+                          txts,
+                          cboZUrbana});
+    encadenar({&txtcq, &txtaq, &txtiq, &bCalcular});
+}
+
+std::vector<RainfallFlowWindow::FlowField> frmQmaxRacional::camposDeQ() {
+    return {{&txtcq, "C"}, {&txtaq, "el área"}, {&txtiq, "la Imáx"}};
+}
+
+Real frmQmaxRacional::caudal() const {
+    const Real C = Val(txtcq.text());
+    const Real A = Val(txtaq.text());
+    const Real I = Val(txtiq.text());
+    return ((C * I) * A) / 360;
+}
+
+bool frmQmaxRacional::grupoCompleto() {
+    if (!txtac.text().empty())
+        return true;
+    mensaje("Ingresar dato en forma adecuada");
+    setFocus(txtac);
+    return false;
+}
+
+RainfallFlowWindow::Group frmQmaxRacional::describirGrupo() const {
+    const std::string& superficie = cboZUrbana.text();
+    if (superficie != sinZonaUrbana)
+        return {coeficienteUrbano(superficie), superficie, {}, {}};
+    const double pendiente = Val(txts.text());
+    return {coeficienteNoUrbano(cboCobertura.text(), cboTextura.text(), pendiente),
+            cboCobertura.text(), cboTextura.text(), textoPlano(pendiente)};
+}
+
+void frmQmaxRacional::vaciarEntradaDeGrupo() {
+    RainfallFlowWindow::vaciarEntradaDeGrupo();
+    cboZUrbana.setText(sinZonaUrbana);
+}
+
+} // namespace caudalera
