@@ -1,5 +1,6 @@
 #include "shell/Program.h"
 
+#include "evapotranspiration/frmPenman.h"
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
@@ -22,6 +23,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
+        {"frmPenman", create<frmPenman>},
     };
     return entries;
 }

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "evapotranspiration/penman.h"
+#include "shell/CalculationWindow.h"
+#include "shell/Integer16.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace caudalera {
+
+/// Reference evapotranspiration of one month at one site by the modified Penman method, with every
+/// term on the way.
+class frmPenman : public CalculationWindow {
+public:
+    explicit frmPenman(Program& program);
+
+    Frame fraDatos{*this, "fraDatos", "Datos:"};
+    TextBox txtLatitud{*this, "txtLatitud", "Latitud:", "grados"};
+    List cobNS{*this, "cobNS", {"N", "S"}, "N"};
+    TextBox txth{*this, "txth", "Altitud (h):", "m.s.n.m"};
+    List cobMes;
+    TextBox txtT{*this, "txtT", "Tmedia (T):", "ºC"};
+    TextBox txtHRmed{*this, "txtHRmed", "HRmedia", "%"};
+    TextBox txtHRmax{*this, "txtHRmax", "HRmáxima", "%"};
+    TextBox txtUz{*this, "txtUz", "Velocidad viento:", "km/hr"};
+    TextBox txtHz{*this, "txtHz", "Altura medición viento (z):", "m"};
+    TextBox txtRVdVn{*this, "txtRVdVn", "Relación Vdía/Vnoche"};
+    TextBox txtnp{*this, "txtnp", "Horas de insolación real (n):", "hr/día"};
+
+    Frame fraParciales{*this, "fraParciales", "Resultados parciales:"};
+    TextBox txtRa{*this, "txtRa", "Ra:", "mm/día"};
+    TextBox txtN{*this, "txtN", "N:", "hr/día"};
+    TextBox txtRnpNg{*this, "txtRnpNg", "n/N:"};
+    TextBox txtFhv{*this, "txtFhv", "f(z)2m:"};
+    TextBox txtU2{*this, "txtU2", "Vviento2m:", "km/hr"};
+    TextBox txtea{*this, "txtea", "ea:", "mbar"};
+    TextBox txted{*this, "txted", "ed:", "mbar"};
+    TextBox txteaed{*this, "txteaed", "ea-ed:", "mbar"};
+    TextBox txtw{*this, "txtw", "w:"};
+    TextBox txt1w{*this, "txt1w", "1-w:"};
+    TextBox txtfu{*this, "txtfu", "f(u):"};
+    TextBox txtft{*this, "txtft", "f(t):"};
+    TextBox txtfed{*this, "txtfed", "f(ed):"};
+    TextBox txtfnN{*this, "txtfnN", "f(n/N):"};
+    TextBox txtRn1{*this, "txtRn1", "Rn1:", "mm/día"};
+    TextBox txtRs{*this, "txtRs", "Rs:", "mm/día"};
+    TextBox txtRns{*this, "txtRns", "Rns:", "mm/día"};
+    TextBox txtRn{*this, "txtRn", "Rn:", "mm/día"};
+
+    Frame fraFinales{*this, "fraFinales", "Resultados finales:"};
+    TextBox txtC{*this, "txtC", "C:"};
+    TextBox txtRadiacion{*this, "txtRadiacion", "Término Radiación:", "mm/día"};
+    TextBox txtAdveccion{*this, "txtAdveccion", "Término Advección:", "mm/día"};
+    TextBox txtETo{*this, "txtETo", "ETo:", "mm/día"};
+
+    void load() override;
+
+protected:
+    void calcular() override;
+    void limpiar() override;
+    void escribirReporte(ReportWriter& reporte) override;
+
+private:
+    void disponer();
+    std::vector<TextBox*> entradas();
+    std::vector<TextBox*> resultados();
+    /// The field's value. An empty one is told and gets the focus, and gives none.
+    std::optional<Real> leer(TextBox& campo, const char* magnitud);
+    DatosPenman leerDatos();
+    void mostrar(const TerminosPenman& terminos);
+    void escribirDatos(ReportWriter& reporte) const;
+    void escribirParciales(ReportWriter& reporte) const;
+    void escribirFinales(ReportWriter& reporte) const;
+
+    // What a run leaves to the next one: a month text or an empty temperature that says nothing
+    // keeps them.
+    Integer16 mes_;
+    Real temperatura_;
+};
+
+} // namespace caudalera

@@ -1,0 +1,101 @@
+// Monthly solar tables, and what the sun gives above the atmosphere.
+
+#include "evapotranspiration/radiacionSolar.h"
+#include "evapotranspiration/solarTables.h"
+#include "shell/RuntimeFailure.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace caudalera {
+namespace {
+
+constexpr double degree = std::numbers::pi / 180;
+
+template <typename Action>
+int failureNumber(Action action) {
+    try {
+        action();
+    } catch (const RuntimeFailure& failure) {
+        return failure.number();
+    }
+    return 0;
+}
+
+TEST(SolarTables, NamesTheMonthsExactly) {
+    EXPECT_EQ(numeroDeMes("Enero"), 1);
+    EXPECT_EQ(numeroDeMes("Setiembre"), 9);
+    EXPECT_EQ(numeroDeMes("Diciembre"), 12);
+    for (const char* none : {"", "enero", "Enero ", "Septiembre", "Ene"})
+        EXPECT_EQ(numeroDeMes(none), std::nullopt) << none;
+}
+
+// The method's table, in single precision.
+TEST(SolarTables, HoldOneSingleAMonth) {
+    const double delta[] = {-0.3656, -0.2365, 0.04682, 0.1607,  0.3247,  0.4017,
+                            0.3699,  0.236,   0.03995, -0.1669, -0.3291, -0.4021};
+    const double dr[] = {0.97104, 0.98136, 0.99653, 1.01313, 1.02625, 1.03241,
+                         1.02987, 1.01916, 1.00347, 0.98693, 0.97369, 0.96812};
+    for (long month = 1; month <= 12; ++month) {
+        EXPECT_EQ(declinacionSolar(month), static_cast<float>(delta[month - 1])) << month;
+        EXPECT_EQ(factorDistancia(month), static_cast<float>(dr[month - 1])) << month;
+    }
+}
+
+TEST(SolarTables, AMonthOutsideTheTableIsAnIndexFailure) {
+    for (const long month : {-1L, 0L, 13L}) {
+        EXPECT_EQ(failureNumber([&] { declinacionSolar(month); }), 9) << month;
+        EXPECT_EQ(failureNumber([&] { factorDistancia(month); }), 9) << month;
+    }
+}
+
+TEST(SolarRadiation, LatitudeIsInRadiansAndNegativeInTheSouth) {
+    EXPECT_NEAR(latitudEnRadianes(45, "N").value(), 45 * degree, 1e-15);
+    EXPECT_NEAR(latitudEnRadianes(45, "S").value(), -45 * degree, 1e-15);
+    EXPECT_NEAR(latitudEnRadianes(45, "").value(), 45 * degree, 1e-15);
+}
+
+// FAO Irrigation and Drainage Paper 56, equations 34 and 21, computed for the 15th of the month
+// with its own declination: hours to 0.01, radiation in mm/day. That paper's solar constant is
+// 0.0820 MJ/m2/min and its latent heat 2.45 MJ/kg, 1.3 % less than the method's, which leaves room
+// for 1.8 %. (March is left out: the table's declination is not that of its middle.)
+TEST(SolarRadiation, LiesNearTheAstronomicalValues) {
+    struct Case {
+        double latitude;
+        long month;
+        double N;
+        double Ra;
+    };
+    const Case cases[] = {{0, 2, 12, 15.28},      {0, 6, 12, 13.64},     {0, 12, 12, 14.53},
+                          {10, 2, 11.68, 14.08},  {10, 6, 12.58, 15.07}, {10, 10, 11.77, 14.30},
+                          {10, 12, 11.42, 12.64}, {20, 2, 11.35, 12.48}, {20, 6, 13.20, 16.13},
+                          {20, 10, 11.53, 12.95}, {20, 12, 10.80, 10.45}};
+    for (const Case& each : cases) {
+        const RadiacionSolar sun =
+            radiacionSolar(latitudEnRadianes(each.latitude, "N"), declinacionSolar(each.month),
+                           factorDistancia(each.month));
+        EXPECT_NEAR(sun.N.value(), each.N, 0.03) << each.latitude << " " << each.month;
+        EXPECT_NEAR(sun.Ra.value() / each.Ra, 1.0134, 0.0125) << each.latitude << " " << each.month;
+    }
+}
+
+// With latitude and declination both 30 degrees, x = -tan(30)^2 = -1/3 and ws = arccos(-1/3);
+// sin^2 = 1/4, cos^2 = 3/4, sin(ws) = sqrt(8) / 3.
+TEST(SolarRadiation, IsExactForSimpleAngles) {
+    const double ws = std::acos(-1.0 / 3);
+    const RadiacionSolar sun = radiacionSolar(30 * degree, 30 * degree, 2);
+    EXPECT_NEAR(sun.N.value(), 24 * ws / std::numbers::pi, 1e-12);
+    const double bracket = ws / 4 + 3.0 / 4 * std::sqrt(8.0) / 3;
+    EXPECT_NEAR(sun.Ra.value(), 916.732 * bracket / 2 / 58.98757, 1e-12);
+}
+
+TEST(SolarRadiation, FailsWhereTheSunNeitherRisesNorSets) {
+    EXPECT_EQ(failureNumber([] { radiacionSolar(80 * degree, 0.4, 1); }), 5);
+    EXPECT_EQ(failureNumber([] { radiacionSolar(-80 * degree, 0.4, 1); }), 5);
+    EXPECT_EQ(failureNumber([] { radiacionSolar(0.1, 0.1, 0); }), 11);
+}
+
+} // namespace
+} // namespace caudalera
