@@ -49,7 +49,7 @@ std::unique_ptr<Label> attachedLabel(Window& window, const std::string& name,
 
 } // namespace
 
-TextBox::TextBox(Window& window, std::string name, const std::string& labelText,
+TextBox::TextBox(Window& window, const std::string& name, const std::string& labelText,
                  const std::string& unitText)
     : Control(window, name, ControlKind::text),
       label_(attachedLabel(window, name + ".rótulo", labelText)),
@@ -94,8 +94,8 @@ void TextBox::type(char32_t character) {
     selStart = backspace ? start : start + 1;
 }
 
-List::List(Window& window, std::string name, std::vector<std::string> items, std::string start,
-           const std::string& labelText)
+List::List(Window& window, const std::string& name, std::vector<std::string> items,
+           std::string start, const std::string& labelText)
     : Control(window, name, ControlKind::list),
       label_(attachedLabel(window, name + ".rótulo", labelText)), items_(std::move(items)),
       text_(std::move(start)) {}

@@ -170,7 +170,7 @@ private:
 /// A text field, with its label and unit as labels of their own.
 class TextBox : public Control {
 public:
-    TextBox(Window& window, std::string name, const std::string& labelText = {},
+    TextBox(Window& window, const std::string& name, const std::string& labelText = {},
             const std::string& unitText = {});
 
     const std::string& text() const { return text_; }
@@ -208,7 +208,7 @@ private:
 /// A drop-down list that can also be typed into.
 class List : public Control {
 public:
-    List(Window& window, std::string name, std::vector<std::string> items, std::string start,
+    List(Window& window, const std::string& name, std::vector<std::string> items, std::string start,
          const std::string& labelText = {});
 
     const std::vector<std::string>& items() const { return items_; }

@@ -13,15 +13,12 @@ namespace {
 /// The windows of the shell itself, which no menu entry of a calculation opens.
 const std::vector<WindowEntry>& shellWindows() {
     static const std::vector<WindowEntry> entries = {
-        {"frmCaudalera", [](Program& p) -> std::unique_ptr<Window> {
-             return std::make_unique<frmCaudalera>(p);
-         }},
-        {"frmPadre", [](Program& p) -> std::unique_ptr<Window> {
-             return std::make_unique<frmPadre>(p);
-         }},
-        {"frmacerc", [](Program& p) -> std::unique_ptr<Window> {
-             return std::make_unique<frmacerc>(p);
-         }},
+        {"frmCaudalera",
+         [](Program& p) -> std::unique_ptr<Window> { return std::make_unique<frmCaudalera>(p); }},
+        {"frmPadre",
+         [](Program& p) -> std::unique_ptr<Window> { return std::make_unique<frmPadre>(p); }},
+        {"frmacerc",
+         [](Program& p) -> std::unique_ptr<Window> { return std::make_unique<frmacerc>(p); }},
     };
     return entries;
 }
@@ -35,21 +32,26 @@ void Program::start() {
 }
 
 const WindowEntry* Program::entryOf(std::string_view name) const {
-    for (const auto* list : {&shellWindows(), &opens_})
-        for (const WindowEntry& entry : *list)
+    for (const auto* list : {&shellWindows(), &opens_}) {
+        for (const WindowEntry& entry : *list) {
             if (entry.name == name)
                 return &entry;
+        }
+    }
     return nullptr;
 }
 
 Window* Program::find(std::string_view name) const {
-    for (const auto& window : windows_)
+    for (const auto& window : windows_) {
         if (window->name() == name)
             return window.get();
+    }
     return nullptr;
 }
 
-frmPadre* Program::padre() const { return dynamic_cast<frmPadre*>(find("frmPadre")); }
+frmPadre* Program::padre() const {
+    return dynamic_cast<frmPadre*>(find("frmPadre"));
+}
 
 void Program::act(const std::function<void()>& handler) {
     if (ended_)
@@ -130,10 +132,11 @@ void Program::key(Control& control, Key key) {
     if (!control.enabled)
         return;
     if (control.kind() == ControlKind::button || control.kind() == ControlKind::option) {
-        if (key.kind == Key::Kind::enter || key.character == U' ')
+        if (key.kind == Key::Kind::enter || key.character == U' ') {
             click(control);
-        else
+        } else {
             focus(control);
+        }
         return;
     }
     act([&] {
@@ -148,10 +151,11 @@ void Program::key(Control& control, Key key) {
             keyOnText(*box, key);
         } else if (auto* list = dynamic_cast<List*>(&control)) {
             control.window().setFocus(control);
-            if (key.kind == Key::Kind::enter && list->onEnter)
+            if (key.kind == Key::Kind::enter && list->onEnter) {
                 list->onEnter();
-            else if (key.kind == Key::Kind::character)
+            } else if (key.kind == Key::Kind::character) {
                 list->type(key.character);
+            }
         } else {
             control.window().setFocus(control);
         }
@@ -162,10 +166,11 @@ void Program::keyOnText(TextBox& box, Key key) {
     box.window().setFocus(box);
     if (box.onKey && box.onKey(key))
         return;
-    if (key.kind == Key::Kind::character)
+    if (key.kind == Key::Kind::character) {
         box.type(key.character);
-    else if (key.kind == Key::Kind::enter && box.onEnter)
+    } else if (key.kind == Key::Kind::enter && box.onEnter) {
         box.onEnter();
+    }
 }
 
 void Program::keyOnGrid(MSFlexGrid& grid, Key key) {
@@ -251,6 +256,8 @@ void Program::unload(Window& window) {
     windows_.erase(found);
 }
 
-void Program::end() { ended_ = Ending{}; }
+void Program::end() {
+    ended_ = Ending{};
+}
 
 } // namespace caudalera

@@ -53,8 +53,8 @@ void frmPadre::unload() {
 
 frmDocumento& frmPadre::nuevoDocumento() {
     ++documentosHechos_;
-    documents_.push_back(std::make_unique<frmDocumento>("Documento " +
-                                                        textoPlano(long{documentosHechos_})));
+    documents_.push_back(
+        std::make_unique<frmDocumento>("Documento " + textoPlano(long{documentosHechos_})));
     activated_.push_back(documents_.back().get());
     return *activated_.back();
 }
@@ -151,10 +151,11 @@ void frmPadre::pegar() {
     if (!active())
         return;
     const std::string source = platform().clipboardText();
-    if (looksLikeRtf(source))
+    if (looksLikeRtf(source)) {
         active()->rtfText.setSelRich(readRtf(source));
-    else
+    } else {
         active()->rtfText.setSelText(source);
+    }
 }
 
 } // namespace caudalera

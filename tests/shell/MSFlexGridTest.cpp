@@ -45,9 +45,10 @@ TEST_F(GridTest, ResetMakesItEmptyWithTheFirstFreeCellCurrent) {
     EXPECT_EQ(grid.Row(), 1);
     EXPECT_EQ(grid.Col(), 1);
     EXPECT_EQ(grid.TopRow(), 1);
-    for (long row = 0; row < 4; ++row)
+    for (long row = 0; row < 4; ++row) {
         for (long col = 0; col < 2; ++col)
             EXPECT_EQ(grid.TextMatrix(row, col), "");
+    }
     EXPECT_EQ(events, Events{});
 }
 
@@ -67,8 +68,10 @@ TEST_F(GridTest, HeadersFillRowZero) {
 }
 
 TEST_F(GridTest, ACellOutsideIsFailure9) {
-    for (const auto& [row, col] :
-         std::vector<std::pair<long, long>>{{-1, 0}, {0, -1}, {3, 0}, {0, 3}}) {
+    using Cell = std::pair<long, long>;
+    for (const Cell& cell : {Cell{-1, 0}, Cell{0, -1}, Cell{3, 0}, Cell{0, 3}}) {
+        const long row = cell.first;
+        const long col = cell.second;
         EXPECT_EQ(failureNumber([&] { (void)grid.TextMatrix(row, col); }), 9);
         EXPECT_EQ(failureNumber([&] { grid.setTextMatrix(row, col, "x"); }), 9);
         EXPECT_EQ(failureNumber([&] { grid.setSelectionEnd(row, col); }), 9);
@@ -174,9 +177,10 @@ TEST_F(GridTest, ScrollingRunsItsEventAndStaysBelowTheHeader) {
 }
 
 TEST_F(GridTest, ClearingRowsLeavesTheFixedColumnAndTheRowsAbove) {
-    for (long row = 0; row < 3; ++row)
+    for (long row = 0; row < 3; ++row) {
         for (long col = 0; col < 3; ++col)
             grid.setTextMatrix(row, col, "x");
+    }
     grid.clearRowsFrom(2);
     EXPECT_EQ(grid.TextMatrix(1, 1), "x");
     EXPECT_EQ(grid.TextMatrix(2, 0), "x");

@@ -133,15 +133,19 @@ TEST_F(MenuTest, TheMenuBarHasItsTitlesInOrder) {
 
 TEST_F(MenuTest, EveryEntryStandsInItsPlaceWithItsCaption) {
     std::vector<std::string> expected;
-    for (const Row& row : table)
+    for (const Row& row : table) {
         expected.push_back(std::string(row.menu) + ": " + std::string(row.entry) + " \"" +
                            std::string(row.caption) + "\"");
+    }
     std::vector<std::string> found;
-    for (const MenuEntry* title : main().menuBar)
-        for (const MenuEntry* entry : title->entries)
-            if (entry)
+    for (const MenuEntry* title : main().menuBar) {
+        for (const MenuEntry* entry : title->entries) {
+            if (entry) {
                 found.push_back(title->name() + ": " + entry->name() + " \"" + entry->caption +
                                 "\"");
+            }
+        }
+    }
     EXPECT_EQ(found, expected);
 }
 
@@ -160,9 +164,10 @@ TEST_F(MenuTest, AnEntryIsEnabledWhenThereIsWhatItOpens) {
     for (const WindowEntry& entry : ventanas())
         known.insert(entry.name);
     main();
-    for (const Row& row : table)
+    for (const Row& row : table) {
         EXPECT_EQ(control<MenuEntry>(std::string(row.entry)).enabled, known.contains(row.opens))
             << row.entry;
+    }
 }
 
 TEST_F(MenuTest, EveryEntryOpensItsWindowUnderItsCaption) {

@@ -209,9 +209,10 @@ TEST_F(ReportTest, TheMenuReadsAsTold) {
     std::vector<std::pair<std::string, std::string>> found;
     for (const MenuEntry* title : program.padre()->menuBar) {
         found.emplace_back(title->name(), title->caption);
-        for (const MenuEntry* entry : title->entries)
+        for (const MenuEntry* entry : title->entries) {
             if (entry)
                 found.emplace_back(entry->name(), entry->caption);
+        }
     }
     EXPECT_EQ(found, (std::vector<std::pair<std::string, std::string>>{
                          {"mnuFile", "&Archivo"},

@@ -145,9 +145,10 @@ TEST(SeriesLayouts, EveryWindowHasItsRow) {
 TEST(SeriesLayouts, LoadedValuesTakeTheCommonMaskButForThreeWindows) {
     const std::set<std::string_view> temperatures = {"frmThornthwaite", "frmBlaneyCriddle",
                                                      "frmBalanceHidro"};
-    for (const SeriesLayout& layout : seriesLayouts())
+    for (const SeriesLayout& layout : seriesLayouts()) {
         EXPECT_EQ(layout.mask, temperatures.contains(layout.window) ? "0.0#" : "#0.0#######")
             << layout.window;
+    }
 }
 
 TEST(SeriesLayouts, AWindowWithoutAGridHasNone) {

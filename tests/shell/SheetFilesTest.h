@@ -20,7 +20,7 @@ protected:
     }
     /// A file of singles of 0, as many as told.
     std::string zeros(std::size_t singles) {
-        const std::string path = file("zeros");
+        std::string path = file("zeros");
         writeBytes(path, Bytes(singles * 4));
         return path;
     }

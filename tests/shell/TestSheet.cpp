@@ -44,9 +44,10 @@ void TestSheet::leerCuadricula() {
     if (falloAlLeer)
         throw RuntimeFailure(*falloAlLeer);
     n = contarFilas();
-    for (long i = 1; i <= n; ++i)
+    for (long i = 1; i <= n; ++i) {
         for (long col = 1; col < grdt.Cols(); ++col)
             series_[static_cast<std::size_t>(col)][i] = valorCelda(i, col);
+    }
 }
 
 Real TestSheet::elementoSerie(long columna, long i) const {

@@ -18,11 +18,12 @@ void typeRows(Program& program, MSFlexGrid& grid,
     program.focus(grid);
     if (grid.Row() != alta || grid.Col() != 1)
         program.selectCell(grid, alta, 1);
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         for (const auto& value : row) {
             typeText(program, grid, value);
             program.key(grid, {Key::Kind::enter});
         }
+    }
 }
 
 } // namespace caudalera

@@ -7,7 +7,9 @@
 
 namespace caudalera {
 
-void RecordingPlatform::showMessage(const Message& message) { messages.push_back(message); }
+void RecordingPlatform::showMessage(const Message& message) {
+    messages.push_back(message);
+}
 
 std::optional<std::string> RecordingPlatform::nextAnswer() {
     if (answers.empty())

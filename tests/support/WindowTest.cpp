@@ -18,7 +18,9 @@ WindowTest::WindowTest(const std::vector<WindowEntry>& opens) : program(platform
     current_ = program.find("frmCaudalera");
 }
 
-WindowTest::~WindowTest() { std::filesystem::remove_all(folder_); }
+WindowTest::~WindowTest() {
+    std::filesystem::remove_all(folder_);
+}
 
 Window& WindowTest::open(const std::string& name) {
     program.act([&] { current_ = program.show(name); });
@@ -34,7 +36,9 @@ Window& WindowTest::window(const std::string& name) {
     return *current_;
 }
 
-void WindowTest::click(const std::string& name) { program.click(control<Control>(name)); }
+void WindowTest::click(const std::string& name) {
+    program.click(control<Control>(name));
+}
 
 void WindowTest::enter(const std::string& name, const std::string& text) {
     program.changeText(control<TextBox>(name), text);
@@ -92,7 +96,9 @@ std::string WindowTest::focus() {
     return current_->focus() ? current_->focus()->name() : std::string();
 }
 
-std::vector<Message> WindowTest::messages() { return std::exchange(platform.messages, {}); }
+std::vector<Message> WindowTest::messages() {
+    return std::exchange(platform.messages, {});
+}
 
 std::string WindowTest::report() {
     const auto* padre = program.padre();
