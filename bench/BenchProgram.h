@@ -1,0 +1,50 @@
+#pragma once
+
+#include "shell/Program.h"
+#include "shell/Worksheet.h"
+#include "tests/support/RecordingPlatform.h"
+#include "tests/support/SeriesBytes.h"
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace caudalera::bench {
+
+/// A started program with one calculation window open, and a series file of its own.
+class BenchProgram {
+public:
+    BenchProgram(const std::string& window, long records)
+        : path_((std::filesystem::temp_directory_path() / ("caudalera-bench-" + window + ".X"))
+                    .string()) {
+        // Values of four digits with two decimals, in no order.
+        std::vector<float> series;
+        for (long i = 1; i <= records; ++i)
+            series.push_back(static_cast<float>((i * 7919) % 100003) / 100 + 1);
+        writeSingles(path_, series);
+        program.start();
+        program.act([&] { sheet_ = dynamic_cast<Worksheet*>(program.show(window)); });
+        if (!sheet_)
+            throw std::logic_error("no worksheet " + window);
+    }
+    ~BenchProgram() { std::filesystem::remove(path_); }
+    BenchProgram(const BenchProgram&) = delete;
+    BenchProgram& operator=(const BenchProgram&) = delete;
+
+    RecordingPlatform platform;
+    Program program{platform};
+
+    Worksheet& sheet() { return *sheet_; }
+    /// Loads the series file as bAccesar does.
+    void load() {
+        platform.answers.emplace_back(path_);
+        program.click(sheet_->bAccesar);
+    }
+
+private:
+    std::string path_;
+    Worksheet* sheet_ = nullptr;
+};
+
+} // namespace caudalera::bench
