@@ -1,0 +1,150 @@
+#include "desktop/Session.h"
+
+#include "desktop/MainWindow.h"
+#include "desktop/ReportWindow.h"
+#include "desktop/Style.h"
+#include "desktop/WindowView.h"
+#include "shell/frmCaudalera.h"
+#include "shell/frmPadre.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <algorithm>
+
+namespace caudalera {
+
+namespace {
+
+/// The report window in the terms of the session; lives as long as that window.
+class ReportView : public QObject, public View {
+public:
+    explicit ReportView(ReportWindow* window) : QObject(window), window_(window) {}
+
+    QWidget& widget() override { return *window_; }
+    void sync() override { window_->sync(); }
+
+private:
+    ReportWindow* window_;
+};
+
+/// Counts how deep acts and syncs are nested.
+class Nesting {
+public:
+    explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
+    ~Nesting() { --depth_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+private:
+    int& depth_;
+};
+
+View* makeView(Session& session, Window& window) {
+    if (auto* padre = dynamic_cast<frmPadre*>(&window))
+        return new ReportView(new ReportWindow(session, *padre));
+    if (auto* principal = dynamic_cast<frmCaudalera*>(&window))
+        return new MainWindow(session, *principal);
+    return new WindowView(session, window);
+}
+
+} // namespace
+
+void View::retire() {
+    widget().hide();
+    widget().deleteLater();
+}
+
+Session::Session() : platform_(*this), program_(platform_) {
+    qApp->installEventFilter(this);
+}
+
+Session::~Session() {
+    const Nesting nesting(depth_);
+    for (const Opened& opened : views_)
+        delete &opened.view->widget();
+}
+
+void Session::start() {
+    act([this] { program_.start(); });
+}
+
+void Session::act(const std::function<void()>& event) {
+    if (busy())
+        return;
+    {
+        const Nesting nesting(depth_);
+        event();
+    }
+    if (!program_.ended())
+        sync();
+}
+
+void Session::sync() {
+    const Nesting nesting(depth_);
+    closeUnloaded();
+    openNew();
+    for (const Opened& opened : views_)
+        opened.view->sync();
+    raiseShown();
+}
+
+void Session::closeUnloaded() {
+    const auto& windows = program_.windows();
+    std::erase_if(views_, [&](const Opened& opened) {
+        const bool loaded = std::any_of(windows.begin(), windows.end(), [&](const auto& window) {
+            return window.get() == opened.window;
+        });
+        if (!loaded)
+            opened.view->retire();
+        return !loaded;
+    });
+}
+
+void Session::openNew() {
+    for (const auto& window : program_.windows()) {
+        if (!viewOf(*window))
+            views_.push_back({window.get(), 0, makeView(*this, *window)});
+    }
+}
+
+void Session::raiseShown() {
+    std::vector<Opened*> shown;
+    for (Opened& opened : views_) {
+        if (opened.window->visible && opened.window->shown > opened.shown)
+            shown.push_back(&opened);
+    }
+    std::sort(shown.begin(), shown.end(),
+              [](const Opened* a, const Opened* b) { return a->window->shown < b->window->shown; });
+    for (Opened* opened : shown) {
+        opened->shown = opened->window->shown;
+        QWidget& widget = opened->view->widget();
+        if (widget.isMinimized()) {
+            widget.showNormal();
+        } else {
+            widget.show();
+        }
+        widget.raise();
+        widget.activateWindow();
+    }
+}
+
+QWidget* Session::viewOf(const Window& window) const {
+    const auto found = std::find_if(views_.begin(), views_.end(),
+                                    [&](const Opened& each) { return each.window == &window; });
+    return found == views_.end() ? nullptr : &found->view->widget();
+}
+
+void Session::end(const Ending& ending) {
+    emit ended(ending.reason == Ending::Reason::fatal ? 1 : 0);
+}
+
+bool Session::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
+        platform_.openHelp();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace caudalera

@@ -1,0 +1,40 @@
+#include "desktop/Session.h"
+#include "desktop/Style.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLibraryInfo>
+#include <QTimer>
+#include <QTranslator>
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Caudalera"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("caudalera"));
+    QApplication::setOrganizationName(QStringLiteral("Caudalera"));
+    // The model says when the program ends, not the number of windows.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    // The toolkit's own words, in file dialogs and context menus.
+    QTranslator translator;
+    if (translator.load(QStringLiteral("qtbase_es"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&translator);
+    caudalera::style::apply(application);
+
+    caudalera::Session session;
+    QObject::connect(&session, &caudalera::Session::ended, &application,
+                     [](int status) { QApplication::exit(status); });
+    session.start();
+    if (qEnvironmentVariableIsSet("CAUDALERA_TIMING")) {
+        QTimer::singleShot(0, &session, [&sinceStart] {
+            std::fprintf(stderr, "first window after %lld ms\n",
+                         static_cast<long long>(sinceStart.elapsed()));
+        });
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,176 @@
+#include "tests/desktop/DesktopFixture.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPainter>
+#include <QPixmap>
+#include <QPrinter>
+#include <QRegularExpression>
+
+namespace caudalera {
+
+class DesktopPlatformTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        qputenv("CAUDALERA_DIR", folder_.path().toUtf8());
+        desktop_ = std::make_unique<DesktopFixture>();
+    }
+    void cleanup() {
+        const QString boxes = desktop_->unexpectedBoxes();
+        desktop_.reset();
+        QVERIFY2(boxes.isEmpty(), qPrintable(boxes));
+    }
+
+    void filtersTellDescriptionAndPattern_data() {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("series") << "Valores de X|*.X"
+                                << "Valores de X (*.X)";
+        QTest::newRow("named already") << "Archivos (*.RTF)|*.RTF"
+                                       << "Archivos (*.RTF)";
+        QTest::newRow("several") << "Uno|*.A|Dos|*.B"
+                                 << "Uno (*.A);;Dos (*.B)";
+    }
+    void filtersTellDescriptionAndPattern() {
+        QFETCH(QString, filter);
+        QFETCH(QString, shown);
+        QCOMPARE(nameFilter(filter.toStdString()), shown);
+    }
+
+    void aFileDialogStartsBesideTheProgramAndGivesTheNameAsItIs() {
+        desktop_->expectDialog([this](QDialog& dialog) {
+            auto& files = dynamic_cast<QFileDialog&>(dialog);
+            QCOMPARE(files.windowTitle(), QStringLiteral("Seleccionar el archivo a cargar"));
+            QCOMPARE(files.nameFilters(), QStringList("Valores X (*.X)"));
+            QCOMPARE(files.directory().absolutePath(), QApplication::applicationDirPath());
+            answer(files, folder_.filePath("sin extensión"));
+        });
+        const auto chosen = platform().showFileDialog(
+            {FileDialog::Kind::open, "Seleccionar el archivo a cargar", "Valores X|*.X", ""});
+        QVERIFY(chosen);
+        QCOMPARE(QDir::fromNativeSeparators(QString::fromStdString(*chosen)),
+                 folder_.filePath("sin extensión"));
+    }
+
+    void aSaveDialogStartsWithTheLastNameAndOverwritesWithoutAsking() {
+        QFile existing(folder_.filePath("serie.X"));
+        QVERIFY(existing.open(QIODevice::WriteOnly));
+        existing.close();
+        desktop_->expectDialog([this](QDialog& dialog) {
+            auto& files = dynamic_cast<QFileDialog&>(dialog);
+            QCOMPARE(files.acceptMode(), QFileDialog::AcceptSave);
+            QCOMPARE(files.directory().absolutePath(), folder_.path());
+            QCOMPARE(files.findChild<QLineEdit*>()->text(), QStringLiteral("serie.X"));
+            answer(files, QStringLiteral("serie.X"));
+        });
+        const auto chosen =
+            platform().showFileDialog({FileDialog::Kind::save, "Guardar", "Valores de X|*.X",
+                                       existing.fileName().toStdString()});
+        QVERIFY(chosen);
+        QCOMPARE(QDir::fromNativeSeparators(QString::fromStdString(*chosen)), existing.fileName());
+    }
+
+    void aCancelledFileDialogGivesNone() {
+        desktop_->expectDialog([](QDialog& dialog) { dialog.reject(); });
+        QVERIFY(!platform().showFileDialog({FileDialog::Kind::open, "Abrir", "Todo|*.*", ""}));
+    }
+
+    void settingsLastBeyondTheProgram() {
+        QVERIFY(!platform().setting("MainLeft"));
+        platform().setSetting("MainLeft", " 1500");
+        QCOMPARE(*platform().setting("MainLeft"), std::string(" 1500"));
+    }
+
+    void theClipboardCarriesText() {
+        platform().setClipboardText("caudal máximo");
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("caudal máximo"));
+        QGuiApplication::clipboard()->setText("año");
+        QCOMPARE(platform().clipboardText(), std::string("año"));
+    }
+
+    void theSeparatorIsTheLocalesUnlessOneIsNamed() {
+        qputenv("CAUDALERA_DECIMAL", ",");
+        QCOMPARE(platform().decimalSeparator(), std::string(","));
+        qunsetenv("CAUDALERA_DECIMAL");
+        QCOMPARE(QString::fromStdString(platform().decimalSeparator()),
+                 QLocale::system().decimalPoint());
+    }
+
+#ifndef Q_OS_WIN
+    void theHelpViewerIsStartedFromTheFixedDirectory() {
+        QFile viewer(folder_.filePath("hh"));
+        QVERIFY(viewer.open(QIODevice::WriteOnly));
+        viewer.write("#!/bin/sh\necho \"$1\" > \"$(dirname \"$0\")/tmp\"\n"
+                     "mv \"$(dirname \"$0\")/tmp\" \"$(dirname \"$0\")/asked\"\n");
+        viewer.close();
+        viewer.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QVERIFY(platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"));
+        QFile asked(folder_.filePath("asked"));
+        QTRY_VERIFY(asked.exists());
+        QVERIFY(asked.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(asked.readAll()).trimmed(), folder_.filePath("Ayuda.chm"));
+        QVERIFY(viewer.remove());
+    }
+#endif
+
+    void aProcessThatIsNotThereIsNotStarted() {
+        QVERIFY(!platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"));
+        QVERIFY(!platform().startProcess(""));
+    }
+
+    void aPrintedImageFillsThePageInItsProportions_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<bool>("across");
+        QTest::newRow("wide") << QSize(400, 100) << true;
+        QTest::newRow("high") << QSize(100, 200) << false;
+    }
+    void aPrintedImageFillsThePageInItsProportions() {
+        QFETCH(QSize, size);
+        QFETCH(bool, across);
+        QPixmap image(size);
+        image.fill(Qt::red);
+        QPrinter printer;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(folder_.filePath("page.pdf"));
+        printImage(printer, image);
+        QCOMPARE(printer.pageLayout().orientation(),
+                 across ? QPageLayout::Landscape : QPageLayout::Portrait);
+        QFile file(folder_.filePath("page.pdf"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        // The page carries the picture, in its own number of dots.
+        const QRegularExpression picture(
+            QStringLiteral("/Width %1\\s+/Height %2").arg(size.width()).arg(size.height()));
+        QVERIFY(picture.match(QString::fromLatin1(file.readAll())).hasMatch());
+    }
+
+    void withoutAPrinterNothingIsPrintedAndNothingSaid() {
+        desktop_->open("frmParamEsta");
+        desktop_->clickButton("bImprimir");
+        QVERIFY(!desktop_->program().ended());
+    }
+
+private:
+    DesktopPlatform& platform() {
+        return desktop_->session.platform();
+    }
+    static void answer(QFileDialog& dialog, const QString& name) {
+        dialog.findChild<QLineEdit*>()->setText(name);
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    }
+
+    QTemporaryDir folder_;
+    std::unique_ptr<DesktopFixture> desktop_;
+};
+
+} // namespace caudalera
+
+using caudalera::DesktopPlatformTest;
+QTEST_MAIN(DesktopPlatformTest)
+#include "DesktopPlatformTest.moc"
