@@ -27,6 +27,7 @@ bool esTeclaDeNumero(char32_t tecla, std::string_view texto) {
 IntensityWorksheet::IntensityWorksheet(Program& program, std::string name, std::string text)
     : Worksheet(program, std::move(name), std::move(text), "Trío") {
     lbleti1i.heading = true;
+    lbleti2i.heading = true;
     txtDuracionAdi.visible = false;
     lblDuracionAdi.visible = false;
     optDuracionAdiNo.preset(true);
