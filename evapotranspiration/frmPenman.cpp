@@ -49,9 +49,6 @@ void frmPenman::disponer() {
         column({frame(fraParciales, parciales),
                 frame(fraFinales, fields({txtC, txtRadiacion, txtAdveccion, txtETo}))}),
     });
-    commands = {{&Frame6, {&bCalcular, &bLimpiar, &bImprimir}},
-                {&Frame7, {&bReporte}},
-                {nullptr, {&bCalculadora, &bMenu}}};
 }
 
 std::vector<TextBox*> frmPenman::entradas() {

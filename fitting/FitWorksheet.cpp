@@ -32,9 +32,6 @@ FitWorksheet::FitWorksheet(Program& program, std::string name, std::string text,
 
 void FitWorksheet::disponer(Layout camposDeParametros) {
     using namespace layout;
-    lblIngreso.heading = true;
-    lblNota.heading = true;
-    lblNotaEnter.wraps = true;
     lblAjuste.heading = true;
     lblmensaje.wraps = true;
     for (const Parametro* each : parametros()) {
@@ -58,16 +55,13 @@ void FitWorksheet::disponer(Layout camposDeParametros) {
         frame(fraCaudal, column({fields({txtxq, txtxt, txtxp}), buttons({&bQ, &bT}),
                                  buttons({&bPmayor, &bPmenor})})));
     layout = row({
-        column({control(lblIngreso), control(grdt).stretched(), control(lblNota),
-                control(lblNotaEnter)}),
+        ingreso.columna(grdt),
         column(std::move(elecciones)),
         column(
             {control(grddis), control(lblAjuste), control(lblmensaje), control(Graph1).stretched()})
             .stretched(),
     });
-    commands = {{&Frame6, {&bCalcular, &bGraficar, &bLimpiar, &bImprimir}},
-                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
-                {nullptr, {&bCalculadora, &bMenu}}};
+    mandatoTrasCalcular(bGraficar);
 }
 
 std::vector<const FitWorksheet::Parametro*> FitWorksheet::parametros() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fitting/FitTexts.h"
+#include "shell/DataEntry.h"
 #include "shell/Graph.h"
 #include "shell/Series.h"
 #include "shell/Worksheet.h"
@@ -20,9 +21,7 @@ class FitWorksheet : public Worksheet {
 public:
     FitWorksheet(Program& program, std::string name, std::string caption, const FitTexts& texts);
 
-    Label lblIngreso{*this, "lblIngreso", "Ingreso de datos:"};
-    Label lblNota{*this, "lblNota", "Nota:"};
-    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    DataEntry ingreso{*this, "Ingreso de datos:"};
     Button bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
 
     /// Choice of the kind of moments, in the windows that have linear moments.

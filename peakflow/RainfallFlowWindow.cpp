@@ -18,9 +18,6 @@ constexpr long reglaDeResultados = 90;
 RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::string text,
                                        RainfallFlowTexts texts)
     : IntensityWorksheet(program, std::move(name), std::move(text)), texts_(std::move(texts)) {
-    commands = {{&Frame6, {&bCalcular, &bLimpiar, &bImprimir}},
-                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
-                {nullptr, {&bCalculadora, &bMenu}}};
     lblMensajeI.wraps = true;
     lblZonasNoUrbanas.heading = true;
     for (TextBox* resultado : {&txtqmax, &txtgrupo, &txtCponderado, &txtatotal})

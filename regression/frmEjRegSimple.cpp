@@ -36,9 +36,6 @@ frmEjRegSimple::frmEjRegSimple(Program& program)
 void frmEjRegSimple::disponer() {
     using namespace layout;
     using Column = MSFlexGrid::ColumnAlignment;
-    lblIngreso.heading = true;
-    lblNota.heading = true;
-    lblNotaEnter.wraps = true;
     txtvxx.width = 14;
     txtvyy.width = 14;
     txtvyy.result = true;
@@ -46,8 +43,7 @@ void frmEjRegSimple::disponer() {
     grdecua.columnAlignments = {Column::left, Column::left, Column::center, Column::center};
     grdecua.visibleRows = static_cast<int>(numEcuaciones);
     layout = row({
-        column({control(lblIngreso), control(grdt).stretched(), control(lblNota),
-                control(lblNotaEnter)}),
+        ingreso.columna(grdt),
         column({control(grdecua),
                 frame(fraAplicar, row({column({control(lblCalculoY), fields({txtvxx, txtvyy})}),
                                        list({&optLineal, &optExponencial, &optPotencial}),
@@ -55,9 +51,7 @@ void frmEjRegSimple::disponer() {
                 control(Graph1).stretched()})
             .stretched(),
     });
-    commands = {{&Frame6, {&bCalcular, &bGraficar, &bLimpiar, &bImprimir}},
-                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
-                {nullptr, {&bCalculadora, &bMenu}}};
+    mandatoTrasCalcular(bGraficar);
 }
 
 void frmEjRegSimple::reiniciarResultados() {

@@ -2,6 +2,7 @@
 
 #include "regression/ajusteLineal.h"
 #include "shell/BoundedArray.h"
+#include "shell/DataEntry.h"
 #include "shell/Worksheet.h"
 
 #include <array>
@@ -16,9 +17,7 @@ class frmEjRegSimple : public Worksheet {
 public:
     explicit frmEjRegSimple(Program& program);
 
-    Label lblIngreso{*this, "lblIngreso", "Ingreso de los pares de datos:"};
-    Label lblNota{*this, "lblNota", "Nota:"};
-    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    DataEntry ingreso{*this, "Ingreso de los pares de datos:"};
     Button bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
     MSFlexGrid grdecua{*this, "grdecua"};
     Frame fraAplicar{*this, "fraAplicar", "Aplicar ecuación:"};

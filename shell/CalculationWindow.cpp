@@ -9,6 +9,9 @@ namespace caudalera {
 CalculationWindow::CalculationWindow(Program& program, std::string name, std::string text)
     : Window(program, std::move(name), std::move(text)) {
     mainAction = &bCalcular;
+    commands = {{&Frame6, {&bCalcular, &bLimpiar, &bImprimir}},
+                {&Frame7, {&bReporte}},
+                {nullptr, {&bCalculadora, &bMenu}}};
     bCalcular.onClick = [this] { calcular(); };
     bLimpiar.onClick = [this] { limpiar(); };
     bImprimir.onClick = [this] { platform().printWindow(*this); };
@@ -19,6 +22,15 @@ CalculationWindow::CalculationWindow(Program& program, std::string name, std::st
     bReporte.onClick = [this] { reporte(); };
     bCalculadora.enabled = this->program().knows("frmCalculadora");
     bCalculadora.onClick = [this] { this->program().show("frmCalculadora"); };
+}
+
+void CalculationWindow::mandatoTrasCalcular(Button& button) {
+    auto& calculation = commands[0].buttons;
+    calculation.insert(calculation.begin() + 1, &button);
+}
+
+void CalculationWindow::mandatoDeArchivo(Button& button) {
+    commands[1].buttons.push_back(&button);
 }
 
 void CalculationWindow::reporte() {

@@ -5,8 +5,8 @@
 
 namespace caudalera {
 
-/// What every calculation window has: its command buttons and the frame of its report. A window
-/// says which groups of commands it shows in `commands`.
+/// What every calculation window has: its command buttons, which stand in the same groups in all of
+/// them, and the frame of its report.
 class CalculationWindow : public Window {
 public:
     CalculationWindow(Program& program, std::string name, std::string caption);
@@ -21,6 +21,11 @@ public:
     Button bCalculadora{*this, "bCalculadora", "Calculadora"};
 
 protected:
+    /// Shows a command of the window's own behind `bCalcular`.
+    void mandatoTrasCalcular(Button& button);
+    /// Shows a command behind `bReporte`, among those of files.
+    void mandatoDeArchivo(Button& button);
+
     virtual void calcular() = 0;
     virtual void limpiar() = 0;
     /// The window's own content of the report, behind the title block.

@@ -32,7 +32,9 @@ void Graph::setY(std::size_t series, std::vector<double> values) {
     series_[series].y = std::move(values);
 }
 
-void Graph::draw() { ++revision_; }
+void Graph::draw() {
+    ++revision_;
+}
 
 void Graph::clear() {
     background_ = 7;

@@ -4,8 +4,7 @@
 
 namespace caudalera {
 
-Layout::FieldLine::FieldLine(TextBox& box)
-    : label(box.label()), fields{&box}, unit(box.unit()) {}
+Layout::FieldLine::FieldLine(TextBox& box) : label(box.label()), fields{&box}, unit(box.unit()) {}
 
 Layout::FieldLine::FieldLine(List& list) : label(list.label()), fields{&list} {}
 
@@ -73,7 +72,9 @@ Layout buttons(std::vector<Control*> controls) {
     return container(Layout::Kind::buttons, leaves(controls));
 }
 
-Layout list(std::vector<Control*> controls) { return column(leaves(controls)); }
+Layout list(std::vector<Control*> controls) {
+    return column(leaves(controls));
+}
 
 } // namespace layout
 

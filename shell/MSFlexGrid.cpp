@@ -9,7 +9,9 @@ namespace caudalera {
 
 namespace {
 
-std::ptrdiff_t offset(long rows, long cols) { return static_cast<std::ptrdiff_t>(rows) * cols; }
+std::ptrdiff_t offset(long rows, long cols) {
+    return static_cast<std::ptrdiff_t>(rows) * cols;
+}
 
 } // namespace
 

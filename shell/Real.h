@@ -60,18 +60,32 @@ inline Real Log(Real x) {
 }
 
 /// e to the power x; failure 6 past the double range, 0 below it.
-inline Real Exp(Real x) { return Real::checked(std::exp(x.value())); }
+inline Real Exp(Real x) {
+    return Real::checked(std::exp(x.value()));
+}
 
 /// Arc tangent in radians.
-inline Real Atn(Real x) { return std::atan(x.value()); }
+inline Real Atn(Real x) {
+    return std::atan(x.value());
+}
 
-inline Real Sin(Real x) { return std::sin(x.value()); }
-inline Real Cos(Real x) { return std::cos(x.value()); }
-inline Real Tan(Real x) { return std::tan(x.value()); }
-inline Real Abs(Real x) { return std::fabs(x.value()); }
+inline Real Sin(Real x) {
+    return std::sin(x.value());
+}
+inline Real Cos(Real x) {
+    return std::cos(x.value());
+}
+inline Real Tan(Real x) {
+    return std::tan(x.value());
+}
+inline Real Abs(Real x) {
+    return std::fabs(x.value());
+}
 
 /// Largest integer not above x.
-inline Real Int(Real x) { return std::floor(x.value()); }
+inline Real Int(Real x) {
+    return std::floor(x.value());
+}
 
 /// a to the power b. Anything to the power 0 is 1 and 0 to a positive power is 0; failure 5 for 0
 /// to a negative power and for a fractional power of a negative, 6 past the double range.
@@ -89,7 +103,9 @@ inline Real Pow(Real a, Real b) {
 }
 
 /// The circle constant as all the calculations take it, Atn(1) x 4.
-inline Real pi() { return Atn(1) * 4; }
+inline Real pi() {
+    return Atn(1) * 4;
+}
 
 /// Rounds to single precision, as storing in a single does; failure 6 past the single range.
 inline float toSingle(Real x) {

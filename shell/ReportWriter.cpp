@@ -20,8 +20,7 @@ void ReportWriter::regla(long guiones) {
     *this << std::string(static_cast<std::size_t>(guiones), '-') << LF;
 }
 
-void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima,
-                         std::string_view tras) {
+void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima, std::string_view tras) {
     for (long fila = primera; fila <= ultima; ++fila) {
         for (long col = 0; col < grid.Cols(); ++col)
             *this << grid.TextMatrix(fila, col) << tras;

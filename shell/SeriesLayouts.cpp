@@ -88,8 +88,8 @@ const std::vector<SeriesLayout>& seriesLayouts() {
 
 const SeriesLayout& seriesLayout(std::string_view window) {
     const auto& all = seriesLayouts();
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](const SeriesLayout& each) { return each.window == window; });
+    const auto found = std::find_if(
+        all.begin(), all.end(), [&](const SeriesLayout& each) { return each.window == window; });
     if (found == all.end())
         throw std::logic_error("no series layout for " + std::string(window));
     return *found;

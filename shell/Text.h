@@ -20,7 +20,9 @@ double Val(std::string_view text);
 std::string Str(double value);
 /// The same for a single: 7 significant digits.
 std::string Str(float value);
-inline std::string Str(long value) { return Str(static_cast<double>(value)); }
+inline std::string Str(long value) {
+    return Str(static_cast<double>(value));
+}
 
 /// Plain text of a number: the digits of Str without the leading blank and with the zero before
 /// the point ("1", "0.5", "-0.5").

@@ -11,8 +11,9 @@ Window::Window(Program& program, std::string name, std::string text)
     : caption(std::move(text)), program_(program), name_(std::move(name)) {}
 
 Control* Window::find(std::string_view name) const {
-    const auto found = std::find_if(controls_.begin(), controls_.end(),
-                                    [&](const Control* control) { return control->name() == name; });
+    const auto found =
+        std::find_if(controls_.begin(), controls_.end(),
+                     [&](const Control* control) { return control->name() == name; });
     return found == controls_.end() ? nullptr : *found;
 }
 
@@ -26,7 +27,9 @@ void Window::setFocus(Control* control) {
         control->onGotFocus();
 }
 
-Platform& Window::platform() const { return program_.platform(); }
+Platform& Window::platform() const {
+    return program_.platform();
+}
 
 void Window::mensaje(std::string text, std::string title, Icon icon) const {
     platform().showMessage({std::move(text), std::move(title), icon});

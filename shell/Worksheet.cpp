@@ -50,8 +50,16 @@ Worksheet::Worksheet(Program& program, std::string name, std::string text, std::
             "Para introducir o modificar datos, digitarlos y luego presionar ENTER";
     };
     txtt.onLostFocus = [this] { StatusBar1.panels[0].clear(); };
-    mnuEditInsertar.onClick = [this] { insertarFila(); };
-    mnuEditEliminar.onClick = [this] { eliminarFila(); };
+    mnuEditInsertar.onClick = [this] {
+        tomarFila();
+        insertarFila();
+    };
+    mnuEditEliminar.onClick = [this] {
+        tomarFila();
+        eliminarFila();
+    };
+    mandatoDeArchivo(bCrear);
+    mandatoDeArchivo(bAccesar);
     bCrear.onClick = [this] { crear(); };
     bAccesar.onClick = [this] { accesar(); };
 }
@@ -171,6 +179,11 @@ void Worksheet::botonDerecho() {
     mnuEditInsertar.enabled = grdt.Row() != filaDeAlta();
     grdt.setCol(1);
     grdt.setSelectionEnd(grdt.Row(), grdt.Cols() - 1);
+}
+
+void Worksheet::tomarFila() {
+    setFocus(grdt);
+    grdt.setCol(1);
 }
 
 void Worksheet::insertarFila() {

@@ -72,6 +72,8 @@ private:
     void ocultarTxtt();
     bool teclaEnTxtt(Key key);
     void botonDerecho();
+    /// What the right button that opens the pop-up has done already; its entries stand alone too.
+    void tomarFila();
     void insertarFila();
     void eliminarFila();
     void crear();

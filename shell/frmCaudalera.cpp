@@ -87,8 +87,7 @@ MenuEntry& frmCaudalera::entry(MenuEntry& below, const char* name, const char* t
     return entry;
 }
 
-void frmCaudalera::opens(MenuEntry& below, const char* name, const char* text,
-                         const char* window) {
+void frmCaudalera::opens(MenuEntry& below, const char* name, const char* text, const char* window) {
     MenuEntry& added = entry(below, name, text);
     added.enabled = program().knows(window);
     added.onClick = [this, window] { program().show(window); };
@@ -96,8 +95,7 @@ void frmCaudalera::opens(MenuEntry& below, const char* name, const char* text,
 
 void frmCaudalera::ayuda() {
     if (!platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"))
-        mensaje("Para obtener la ayuda presionar tecla F1 ", "Mensaje de error",
-                Icon::information);
+        mensaje("Para obtener la ayuda presionar tecla F1 ", "Mensaje de error", Icon::information);
 }
 
 } // namespace caudalera

@@ -19,10 +19,8 @@ std::unique_ptr<Window> create(Program& program) {
 
 const std::vector<WindowEntry>& ventanas() {
     static const std::vector<WindowEntry> entries = {
-        {"frmParamEsta", create<frmParamEsta>},
-        {"frmEjRegSimple", create<frmEjRegSimple>},
-        {"frmDisNormal", create<frmDisNormal>},
-        {"frmQmaxRacional", create<frmQmaxRacional>},
+        {"frmParamEsta", create<frmParamEsta>}, {"frmEjRegSimple", create<frmEjRegSimple>},
+        {"frmDisNormal", create<frmDisNormal>}, {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmPenman", create<frmPenman>},
     };
     return entries;

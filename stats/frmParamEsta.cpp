@@ -30,25 +30,19 @@ frmParamEsta::frmParamEsta(Program& program)
 
 void frmParamEsta::disponer() {
     using namespace layout;
-    lblIngreso.heading = true;
-    lblNota.heading = true;
-    lblNotaEnter.wraps = true;
     lblOrdenado.heading = true;
     for (TextBox* campo : {&txtL1, &txtL2, &txtL3, &txtL4}) {
         campo->result = true;
         campo->width = 14;
     }
     layout = row({
-        column({control(lblIngreso), control(grdt).stretched(), control(lblNota),
-                control(lblNotaEnter)}),
+        ingreso.columna(grdt),
         column({control(grdParam).stretched(),
                 frame(fraCoeficientes, fields({txtL1, txtL2, txtL3, txtL4}))})
             .stretched(),
         column({control(lblOrdenado), control(grdorden).stretched()}),
     });
-    commands = {{&Frame6, {&bCalcular, &bOrdenar, &bLimpiar, &bImprimir}},
-                {&Frame7, {&bReporte, &bCrear, &bAccesar}},
-                {nullptr, {&bCalculadora, &bMenu}}};
+    mandatoTrasCalcular(bOrdenar);
 }
 
 void frmParamEsta::reiniciarResultados() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/DataEntry.h"
 #include "shell/Series.h"
 #include "shell/Worksheet.h"
 #include "stats/parametrosComunes.h"
@@ -11,9 +12,7 @@ class frmParamEsta : public Worksheet {
 public:
     explicit frmParamEsta(Program& program);
 
-    Label lblIngreso{*this, "lblIngreso", "Ingreso de datos:"};
-    Label lblNota{*this, "lblNota", "Nota:"};
-    Label lblNotaEnter{*this, "lblNotaEnter", "Una vez que digite el dato, presionar ENTER"};
+    DataEntry ingreso{*this, "Ingreso de datos:"};
     Button bOrdenar{*this, "bOrdenar", "&Ordenar", "Mostrar serie ordenada"};
     MSFlexGrid grdParam{*this, "grdParam"};
     Frame fraCoeficientes{*this, "fraCoeficientes", "Coeficientes Lineales:"};

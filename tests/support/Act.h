@@ -16,6 +16,7 @@ void typeText(Program& program, Control& control, std::string_view text);
 
 /// Types rows at the append row of a grid: each value's characters and ENTER; an empty value is
 /// ENTER on the grid alone.
-void typeRows(Program& program, MSFlexGrid& grid, const std::vector<std::vector<std::string>>& rows);
+void typeRows(Program& program, MSFlexGrid& grid,
+              const std::vector<std::vector<std::string>>& rows);
 
 } // namespace caudalera
