@@ -108,12 +108,13 @@ void List::choose(std::string text) {
 
 void List::type(char32_t character) {
     std::string text = text_;
-    if (character == 8)
+    if (character == 8) {
         text.resize(utf8::offset(text, longitud(text) - std::min<std::size_t>(longitud(text), 1)));
-    else if (character >= 32)
+    } else if (character >= 32) {
         utf8::append(text, character);
-    else
+    } else {
         return;
+    }
     choose(std::move(text));
 }
 

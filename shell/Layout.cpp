@@ -21,6 +21,7 @@ Layout container(Layout::Kind kind, std::vector<Layout> children) {
 
 std::vector<Layout> leaves(const std::vector<Control*>& controls) {
     std::vector<Layout> nodes;
+    nodes.reserve(controls.size());
     for (Control* each : controls)
         nodes.push_back(control(*each));
     return nodes;
@@ -68,11 +69,11 @@ Layout fields(std::vector<Layout::FieldLine> lines) {
     return node;
 }
 
-Layout buttons(std::vector<Control*> controls) {
+Layout buttons(const std::vector<Control*>& controls) {
     return container(Layout::Kind::buttons, leaves(controls));
 }
 
-Layout list(std::vector<Control*> controls) {
+Layout list(const std::vector<Control*>& controls) {
     return column(leaves(controls));
 }
 

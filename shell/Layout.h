@@ -60,9 +60,9 @@ Layout control(Control& control);
 Layout frame(Frame& frame, Layout content);
 Layout tabs(Tabs& tabs, std::vector<Layout> pages);
 Layout fields(std::vector<Layout::FieldLine> lines);
-Layout buttons(std::vector<Control*> controls);
+Layout buttons(const std::vector<Control*>& controls);
 /// Options, labels or pictures one below the other.
-Layout list(std::vector<Control*> controls);
+Layout list(const std::vector<Control*>& controls);
 
 } // namespace layout
 

@@ -76,9 +76,10 @@ void MSFlexGrid::setTextMatrix(long row, long col, std::string text) {
 }
 
 void MSFlexGrid::clearRowsFrom(long first) {
-    for (long row = first; row < rows_; ++row)
+    for (long row = first; row < rows_; ++row) {
         for (long col = fixedCols_; col < cols_; ++col)
             setTextMatrix(row, col, {});
+    }
 }
 
 void MSFlexGrid::moveTo(long row, long col) {

@@ -54,7 +54,7 @@ SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields
 }
 
 Integer16 SeriesFile::records() const {
-    const auto count = bytes_ / (4U * static_cast<unsigned>(fields_));
+    const auto count = bytes_ / (std::uintmax_t{4} * static_cast<std::uintmax_t>(fields_));
     if (count > static_cast<std::uintmax_t>(std::numeric_limits<std::int16_t>::max()))
         throw RuntimeFailure(Failure::overflow);
     return {static_cast<long>(count)};

@@ -190,9 +190,10 @@ void Worksheet::insertarFila() {
     if (grdt.Row() == filaDeAlta())
         return;
     grdt.setRows(grdt.Rows() + 1);
-    for (long fila = grdt.Rows() - 1; fila > grdt.Row(); --fila)
+    for (long fila = grdt.Rows() - 1; fila > grdt.Row(); --fila) {
         for (long col = 1; col < grdt.Cols(); ++col)
             grdt.setTextMatrix(fila, col, grdt.TextMatrix(fila - 1, col));
+    }
     vaciarDatos(grdt.Row());
     numerarFilas(marcadorOtro);
     grdt.setCol(1);

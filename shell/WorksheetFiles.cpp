@@ -10,6 +10,7 @@ constexpr const char* marcadorActual = "[->]";
 
 std::vector<float> enSimple(const std::vector<Real>& valores) {
     std::vector<float> registro;
+    registro.reserve(valores.size());
     for (const Real valor : valores)
         registro.push_back(toSingle(valor));
     return registro;
