@@ -5,6 +5,7 @@
 #include "shell/frmDocumento.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace caudalera {
@@ -29,6 +30,10 @@ DocumentFrame::DocumentFrame(frmDocumento& document, DocumentView* view,
     setWindowIcon(style::icon(QStringLiteral("Reporte")));
     // Its entries would be those of Qt, in the language of the system.
     setSystemMenu(nullptr);
+    // The key that such a window has everywhere went with that menu.
+    auto* close = new QShortcut(Qt::CTRL | Qt::Key_F4, this);
+    close->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(close, &QShortcut::activated, this, &QWidget::close);
     setAttribute(Qt::WA_DeleteOnClose, false);
     sync();
 }

@@ -117,6 +117,11 @@ void FieldEdit::keyPressEvent(QKeyEvent* event) {
     const bool isText = !typed.isEmpty() && (typed.front().isPrint() || typed == u"\b");
     if (isText && !isShortcut(*event) && !accepts(typed))
         return;
+    // An access key that nothing has is no text either.
+    if (isText && isShortcut(*event) && (event->modifiers() & Qt::AltModifier)) {
+        event->ignore();
+        return;
+    }
     QLineEdit::keyPressEvent(event);
 }
 

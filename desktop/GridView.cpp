@@ -242,12 +242,8 @@ void GridView::openMenu(const QPoint& globalPosition) {
             action->setObjectName(toQString(entry->name()));
             action->setEnabled(entry->enabled);
         }
-        menu->addSeparator();
-    }
-    menu->addAction(QStringLiteral("Copiar"), QKeySequence::Copy, this, &GridView::copy);
-    if (editor_) {
-        menu->addAction(QStringLiteral("Pegar"), QKeySequence::Paste, this, &GridView::paste)
-            ->setEnabled(!QGuiApplication::clipboard()->text().isEmpty());
+    } else {
+        menu->addAction(QStringLiteral("Copiar"), QKeySequence::Copy, this, &GridView::copy);
     }
     menu->popup(globalPosition);
 }

@@ -109,10 +109,16 @@ QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& 
     auto* box = new QBoxLayout(upright ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(upright && holdsOnlyControls(layout) ? style::halfUnit() : style::unit());
+    const Layout* before = nullptr;
     for (const Layout& child : layout.children) {
         if (upright) {
             add(*box, child, blocks);
         } else {
+            // A unit must not read as part of the label beside it.
+            if (before && before->kind == Layout::Kind::fields &&
+                child.kind == Layout::Kind::fields)
+                box->addSpacing(2 * style::unit());
+            before = &child;
             // Beside each other the columns of fields have their own widths.
             FieldBlocks own;
             add(*box, child, own);

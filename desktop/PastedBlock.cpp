@@ -98,12 +98,18 @@ PastedBlock::PastedBlock(std::string_view text) {
     if (cells.back().size() == 1 && cells.back().front().empty())
         cells.pop_back();
 
-    const bool commas = text.find(',') != std::string_view::npos &&
-                        std::all_of(cells.begin(), cells.end(), [](const auto& row) {
-                            return std::none_of(row.begin(), row.end(), [](std::string_view cell) {
-                                return numberOf(cell, ',').empty();
-                            });
-                        });
+    // The separator by which more of it reads as numbers, so that a refusal names the cell that is
+    // wrong by either.
+    const auto unread = [&cells](char decimal) {
+        std::ptrdiff_t count = 0;
+        for (const auto& row : cells)
+            count += std::count_if(row.begin(), row.end(), [decimal](std::string_view cell) {
+                return numberOf(cell, decimal).empty();
+            });
+        return count;
+    };
+    const bool hasComma = text.find(',') != std::string_view::npos;
+    const bool commas = hasComma && (unread(',') == 0 || unread(',') < unread('.'));
     for (std::size_t i = 0; i < cells.size(); ++i) {
         cells[i].resize(width);
         std::vector<std::string>& row = rows_.emplace_back();
@@ -126,7 +132,8 @@ std::string PastedBlock::refusalFor(const MSFlexGrid& grid) const {
     const long room = grid.Cols() - grid.Col();
     if (width > room) {
         return std::string(nothingPasted) + "el bloque tiene " + std::to_string(width) +
-               " columnas y desde la celda actual caben " + std::to_string(room);
+               " columnas y desde la celda actual " + (room == 1 ? "cabe " : "caben ") +
+               std::to_string(room);
     }
     const long alta = grid.Rows() - 1;
     const long added = grid.Row() + height - alta;

@@ -169,11 +169,13 @@ void ReportWindow::sync() {
 
 void ReportWindow::syncDocuments() {
     const auto& documents = padre_.documents();
+    bool maximized = false;
     std::erase_if(frames_, [&](DocumentFrame* frame) {
         const bool open = std::any_of(documents.begin(), documents.end(), [&](const auto& each) {
             return each.get() == frame->document();
         });
         if (!open) {
+            maximized = maximized || frame->isMaximized();
             area_->removeSubWindow(frame);
             frame->hide();
             frame->deleteLater();
@@ -202,6 +204,9 @@ void ReportWindow::syncDocuments() {
     DocumentFrame* active = frameOf(padre_.active());
     if (active && area_->currentSubWindow() != active)
         area_->setActiveSubWindow(active);
+    // The next one takes over the room of the one that went.
+    if (active && maximized)
+        active->showMaximized();
 }
 
 DocumentFrame* ReportWindow::frameOf(const frmDocumento* document) const {

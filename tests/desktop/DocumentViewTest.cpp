@@ -1,8 +1,8 @@
 #include "desktop/RichTextBridge.h"
 #include "tests/desktop/ReportFixture.h"
 
-#include <QClipboard>
 #include <QAbstractTextDocumentLayout>
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QMenu>

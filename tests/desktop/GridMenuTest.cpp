@@ -27,14 +27,13 @@ private slots:
         QVERIFY2(boxes.isEmpty(), qPrintable(boxes));
     }
 
-    void theMenuHasTheWindowsEntriesAndTheClipboards() {
+    void theMenuHasTheWindowsEntriesAlone() {
         QMenu* menu = openMenu();
         QStringList words;
         for (const QAction* action : menu->actions())
             words.append(action->isSeparator() ? QStringLiteral("-")
                                                : action->text().section(u'\t', 0, 0));
-        QCOMPARE(words,
-                 QStringList({"Insertar Fila", "-", "Eliminar Fila", "-", "Copiar", "Pegar"}));
+        QCOMPARE(words, QStringList({"Insertar Fila", "-", "Eliminar Fila"}));
     }
 
     void insertingIsDisabledOnTheAppendRowAlone() {
@@ -97,6 +96,15 @@ private slots:
                              "Caudalera", information});
         paste("1\t2\t3\n");
         QCOMPARE(desktop_->row(1), QStringLiteral("[?]||"));
+    }
+
+    void aBlockThatIsTooWideForTheLastColumnIsRefused() {
+        desktop_->clickCell(1, 2);
+        desktop_->expectBox({"No se pegó nada: el bloque tiene 2 columnas y desde la celda actual "
+                             "cabe 1",
+                             "Caudalera", information});
+        paste("1\t2\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral("[->]||"));
     }
 
     void aBlockOverDataReplacesItDownward() {

@@ -52,6 +52,12 @@ private slots:
                               << "" << refused(3, 2, "abc");
         QTest::newRow("comma and point") << "1,5\n2.5"
                                          << "" << refused(1, 1, "1,5");
+        QTest::newRow("commas and a word") << "1,5\n2,25\nabc"
+                                           << "" << refused(3, 1, "abc");
+        QTest::newRow("commas and one point") << "1,5\n2,25\n2.5"
+                                              << "" << refused(3, 1, "2.5");
+        QTest::newRow("points and one comma") << "1.5\n2.25\n2,5"
+                                              << "" << refused(3, 1, "2,5");
         QTest::newRow("groups of two") << "1.23,5"
                                        << "" << refused(1, 1, "1.23,5");
         QTest::newRow("group without head") << ".123,5"

@@ -66,6 +66,15 @@ private slots:
         QCOMPARE(on->padre().documents()[1]->rtfText.length(), std::size_t{0});
     }
 
+    void aDocumentClosesByItsKey() {
+        action("mnuFileNew")->trigger();
+        QVERIFY(on->area()->currentSubWindow()->isMaximized());
+        QTest::keyClick(on->view(), Qt::Key_F4, Qt::ControlModifier);
+        QCOMPARE(on->padre().documents().size(), std::size_t{1});
+        QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("Documento 1"));
+        QVERIFY(on->area()->currentSubWindow()->isMaximized());
+    }
+
     void aDocumentClosesByItsFrame() {
         action("mnuFileNew")->trigger();
         on->area()->currentSubWindow()->close();

@@ -39,6 +39,19 @@ private slots:
         checkTabs(desktop.view());
     }
 
+    void columnsOfFieldsStandApart() {
+        DesktopFixture desktop;
+        desktop.open("frmPenman");
+        const auto& field = desktop.widget<QLineEdit>("txtRa");
+        const QRect unit = labelOf(desktop, desktop.control<TextBox>("txtRa").unit());
+        const QRect next = labelOf(desktop, desktop.control<TextBox>("txt1w").label());
+        const int within = unit.left() - field.geometry().right();
+        QVERIFY2(within > 0 && next.left() - unit.right() > 2 * within,
+                 qPrintable(QStringLiteral("%1 px between the columns, %2 px before the unit")
+                                .arg(next.left() - unit.right())
+                                .arg(within)));
+    }
+
     void aLargeScreenGivesItsRoomToGridsAndCharts() {
         DesktopFixture desktop;
         desktop.open("frmDisNormal");
@@ -54,6 +67,10 @@ private slots:
     }
 
 private:
+    static QRect labelOf(DesktopFixture& desktop, const Label* label) {
+        return desktop.widget<QLabel>(label->name().c_str()).geometry();
+    }
+
     static void addWindows() {
         QTest::addColumn<QString>("name");
         for (const WindowEntry& entry : ventanas()) {

@@ -239,6 +239,16 @@ private slots:
         QTRY_COMPARE(desktop_->widget<QLineEdit>("txtL1").text(), QStringLiteral("2.5000"));
     }
 
+    void anAccessKeyThatNothingHasTypesNothing() {
+        desktop_->open("frmPenman");
+        auto& field = desktop_->widget<QLineEdit>("txth");
+        field.setFocus();
+        desktop_->type("5");
+        QTest::keyEvent(QTest::Click, &field, 'z', Qt::AltModifier);
+        QCOMPARE(text("txth"), QStringLiteral("5"));
+        QCOMPARE(field.text(), QStringLiteral("5"));
+    }
+
     void enterOnAButtonPressesIt() {
         desktop_->open("frmParamEsta");
         desktop_->typeValues({"1", "2", "3", "4"});
