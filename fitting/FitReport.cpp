@@ -25,13 +25,9 @@ void FitWorksheet::escribirReporte(ReportWriter& reporte) {
 }
 
 void FitWorksheet::reporteDeSerie(ReportWriter& reporte) const {
-    reporte << "Serie de datos X:" << LF << LF;
-    reporte.regla(40);
-    reporte << " N°" << TAB << TAB << " X" << TAB << TAB << LF;
-    reporte.regla(40);
-    reporte.filas(grdt, 1, program().variables.contadorLineas, "\t\t");
-    reporte.regla(40);
-    reporte << LF << LF << LF;
+    reporte.tablaDeDatos("Serie de datos X:", " N°\t\t X\t\t", grdt,
+                         program().variables.contadorLineas, 40);
+    reporte << LF << LF;
 }
 
 void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {

@@ -1,6 +1,7 @@
 #include "fitting/FitWorksheet.h"
 
 #include "fitting/smirnovKolmogorov.h"
+#include "shell/Messages.h"
 #include "shell/Text.h"
 
 namespace caudalera {
@@ -205,11 +206,11 @@ void FitWorksheet::escribirVeredicto(Real teorico) {
 
 void FitWorksheet::graficar() {
     if (!ajusteCalculado) {
-        mensajeDeError("Efectuar cálculos antes de graficar");
+        mensajeDeError(mensajeGraficoSinCalculo);
         return;
     }
     if (conteoDatos <= 1) {
-        mensaje("Para graficar se requiere por lo menos dos puntos", "Error", Icon::error);
+        mensaje(mensajeGraficoDosPuntos, "Error", Icon::error);
         return;
     }
     LineChart chart;

@@ -1,6 +1,7 @@
 #include "regression/frmEjRegSimple.h"
 
 #include "regression/textosRegresion.h"
+#include "shell/Messages.h"
 #include "shell/Text.h"
 
 #include <string_view>
@@ -205,8 +206,8 @@ void frmEjRegSimple::escribirReporte(ReportWriter& reporte) {
     constexpr long guionesEcuaciones = 109;
     constexpr long columnaR = 2;
 
-    escribirTablaDatos(reporte, "Pares de datos X,Y:", " Par\t\t X\t\t Y\t\t", grdt,
-                       filasDelReporte(), guionesPares);
+    reporte.tablaDeDatos("Pares de datos X,Y:", " Par\t\t X\t\t Y\t\t", grdt, filasDelReporte(),
+                         guionesPares);
 
     reporte << "Ecuaciones de ajuste de pares de datos:" << LF << LF;
     reporte.regla(guionesEcuaciones);

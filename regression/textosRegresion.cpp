@@ -9,16 +9,4 @@ std::string textoRecta(const std::string& a, const std::string& b) {
     return "Y = " + a + signo + b + " * X";
 }
 
-void escribirTablaDatos(ReportWriter& reporte, std::string_view titulo, std::string_view columnas,
-                        const MSFlexGrid& grid, long filas, long guiones) {
-    constexpr auto LF = ReportWriter::LF;
-    reporte << titulo << LF << LF;
-    reporte.regla(guiones);
-    reporte << columnas << LF;
-    reporte.regla(guiones);
-    reporte.filas(grid, 1, filas, "\t\t");
-    reporte.regla(guiones);
-    reporte << LF;
-}
-
 } // namespace caudalera

@@ -28,4 +28,15 @@ void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima, std:
     }
 }
 
+void ReportWriter::tablaDeDatos(std::string_view titulo, std::string_view columnas,
+                                const MSFlexGrid& grid, long cuantas, long guiones) {
+    *this << titulo << LF << LF;
+    regla(guiones);
+    *this << columnas << LF;
+    regla(guiones);
+    filas(grid, 1, cuantas, "\t\t");
+    regla(guiones);
+    *this << LF;
+}
+
 } // namespace caudalera

@@ -32,6 +32,11 @@ public:
     /// end. A row that does not exist is failure 9.
     void filas(const MSFlexGrid& grid, long primera, long ultima, std::string_view tras);
 
+    /// A data grid as the reports list it: title, rule, line of column titles, rule, the first
+    /// `cuantas` rows with two tabs behind every cell, rule, empty line.
+    void tablaDeDatos(std::string_view titulo, std::string_view columnas, const MSFlexGrid& grid,
+                      long cuantas, long guiones);
+
 private:
     RichText& text_;
 };

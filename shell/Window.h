@@ -48,7 +48,7 @@ public:
     std::vector<CommandGroup> commands;
     /// Titles of the menu bar.
     std::vector<MenuEntry*> menuBar;
-    /// What ENTER on no button of its own and the accent of the view stand for.
+    /// The command that the view sets off from the others; nullptr if none.
     Button* mainAction = nullptr;
 
     Control* focus() const { return focus_; }

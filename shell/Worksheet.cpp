@@ -10,8 +10,6 @@ namespace {
 
 constexpr const char* mascaraCelda = "#0.0#######";
 constexpr const char* mascaraAlta = "0.0#######";
-constexpr const char* marcadorActual = "[->]";
-constexpr const char* marcadorOtro = "[?]";
 
 } // namespace
 
@@ -196,7 +194,6 @@ void Worksheet::insertarFila() {
     }
     vaciarDatos(grdt.Row());
     numerarFilas(marcadorOtro);
-    grdt.setCol(1);
 }
 
 void Worksheet::eliminarFila() {
@@ -206,7 +203,6 @@ void Worksheet::eliminarFila() {
     } else {
         reiniciarCuadricula();
     }
-    grdt.setCol(1);
 }
 
 } // namespace caudalera

@@ -64,6 +64,10 @@ protected:
     Real valorCelda(long fila, long columna) const;
 
 private:
+    /// Fixed cell of the append row while it is the current one, and otherwise.
+    static constexpr const char* marcadorActual = "[->]";
+    static constexpr const char* marcadorOtro = "[?]";
+
     void numerarFilas(const char* marcador);
     void avanzar();
     void cambioDeFila();

@@ -6,8 +6,6 @@ namespace caudalera {
 
 namespace {
 
-constexpr const char* marcadorActual = "[->]";
-
 std::vector<float> enSimple(const std::vector<Real>& valores) {
     std::vector<float> registro;
     registro.reserve(valores.size());

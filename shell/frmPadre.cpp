@@ -73,20 +73,8 @@ void frmPadre::closeDocument(frmDocumento& document) {
     documents_.erase(found);
 }
 
-frmDocumento& frmPadre::activoRequerido() const {
-    if (!active())
-        throw RuntimeFailure(Failure::noActiveChild);
-    return *active();
-}
-
 frmDocumento& frmPadre::documentoParaReporte() {
-    try {
-        return activoRequerido();
-    } catch (const RuntimeFailure& failure) {
-        if (failure.failure() != Failure::noActiveChild)
-            throw;
-        return nuevoDocumento();
-    }
+    return active() ? *active() : nuevoDocumento();
 }
 
 std::string frmPadre::elegirArchivo(FileDialog::Kind kind, const char* title,
@@ -105,7 +93,9 @@ void frmPadre::abrir() {
 }
 
 void frmPadre::guardar() {
-    frmDocumento& documento = activoRequerido();
+    if (!active())
+        throw RuntimeFailure(Failure::noActiveChild);
+    frmDocumento& documento = *active();
     std::string path = documento.caption;
     // A caption that begins so belongs to a document with no file yet.
     if (path.starts_with("Document")) {

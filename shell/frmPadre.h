@@ -46,8 +46,7 @@ public:
     /// Closes a document with no question; the one that was active before becomes active again.
     void closeDocument(frmDocumento& document);
     frmDocumento& nuevoDocumento();
-    /// The active document; without one the access fails with number 91, whose trap makes a new
-    /// document and resumes.
+    /// The active document; without one a new one is made, so that a report always has its place.
     frmDocumento& documentoParaReporte();
 
     void load() override;
@@ -61,7 +60,6 @@ private:
     void copiar();
     void cortar();
     void pegar();
-    frmDocumento& activoRequerido() const;
     /// Empty if it was cancelled.
     std::string elegirArchivo(FileDialog::Kind kind, const char* title, const char* filter) const;
 

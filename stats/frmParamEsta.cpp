@@ -153,21 +153,11 @@ void frmParamEsta::escribirColumna(long columna, const std::vector<std::string>&
 void frmParamEsta::escribirReporte(ReportWriter& reporte) {
     constexpr auto LF = ReportWriter::LF;
     constexpr auto TAB = ReportWriter::TAB;
-    constexpr std::string_view separacion = "\t\t";
+    constexpr std::string_view columnasSerie = " N°\t\t X\t\t";
     constexpr long guionesSerie = 45;
     constexpr long guionesParametros = 145;
 
-    const auto tablaDeSerie = [&](std::string_view titulo, const MSFlexGrid& grid, long filas) {
-        reporte << titulo << LF << LF;
-        reporte.regla(guionesSerie);
-        reporte << " N°" << TAB << TAB << " X" << TAB << TAB << LF;
-        reporte.regla(guionesSerie);
-        reporte.filas(grid, 1, filas, separacion);
-        reporte.regla(guionesSerie);
-        reporte << LF;
-    };
-
-    tablaDeSerie("Serie de datos X:", grdt, filasDelReporte());
+    reporte.tablaDeDatos("Serie de datos X:", columnasSerie, grdt, filasDelReporte(), guionesSerie);
 
     reporte << "Parámetros Estadísticos:" << LF << LF;
     reporte.regla(guionesParametros);
@@ -187,7 +177,8 @@ void frmParamEsta::escribirReporte(ReportWriter& reporte) {
     reporte << "L1 = " << txtL1.text() << LF << "L2 = " << txtL2.text() << LF;
     reporte << "L3 = " << txtL3.text() << LF << "L4 = " << txtL4.text() << LF << LF;
 
-    tablaDeSerie("Serie de datos ordenados:", grdorden, grdorden.Rows() - 1);
+    reporte.tablaDeDatos("Serie de datos ordenados:", columnasSerie, grdorden, grdorden.Rows() - 1,
+                         guionesSerie);
 }
 
 } // namespace caudalera

@@ -26,7 +26,7 @@ TEST_F(DisNormalPublished, TippecanoeByMoments) {
 }
 
 TEST_F(DisNormalPublished, HarricanaByMoments) {
-    fit(publishedSeries("harricana"));
+    fit(valuesOf(samplePath("harricana_amos.csv")));
     EXPECT_EQ(text("txtux"), "191.3174"); // 191.31739
     EXPECT_EQ(text("txtSX"), "47.9616");  // 47.96161
 }
