@@ -1,8 +1,9 @@
 #pragma once
 
-#include "shell/Program.h"
-#include "shell/Worksheet.h"
-#include "tests/support/RecordingPlatform.h"
+#include "app/registry.h"
+#include "recording/RecordingPlatform.h"
+#include "shell/window/Program.h"
+#include "shell/worksheet/Worksheet.h"
 #include "tests/support/SeriesBytes.h"
 
 #include <filesystem>
@@ -33,7 +34,7 @@ public:
     BenchProgram& operator=(const BenchProgram&) = delete;
 
     RecordingPlatform platform;
-    Program program{platform};
+    Program program{platform, ventanas()};
 
     Worksheet& sheet() { return *sheet_; }
     /// Loads the series file as bAccesar does.

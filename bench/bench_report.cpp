@@ -1,5 +1,5 @@
 #include "bench/BenchProgram.h"
-#include "shell/frmPadre.h"
+#include "shell/report/frmPadre.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,7 +14,7 @@ void composeReport(benchmark::State& state) {
     for ([[maybe_unused]] auto each : state) {
         bench.program.click(bench.sheet().bReporte);
         state.PauseTiming();
-        if (frmPadre* padre = bench.program.padre())
+        if (frmPadre* padre = ventanaDeReportes(bench.program))
             bench.program.close(*padre);
         state.ResumeTiming();
     }

@@ -1,6 +1,7 @@
-#include "shell/Program.h"
-#include "tests/support/Act.h"
-#include "tests/support/RecordingPlatform.h"
+#include "app/registry.h"
+#include "recording/Act.h"
+#include "recording/RecordingPlatform.h"
+#include "shell/window/Program.h"
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +24,7 @@ public:
     }
 
     RecordingPlatform platform;
-    Program program{platform};
+    Program program{platform, ventanas()};
 
     template <typename Kind = Control>
     Kind& control(const std::string& name) {

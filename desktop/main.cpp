@@ -1,5 +1,7 @@
-#include "desktop/Session.h"
-#include "desktop/Style.h"
+#include "app/registry.h"
+#include "desktop/Views.h"
+#include "desktop/session/Session.h"
+#include "desktop/style/Style.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -26,7 +28,7 @@ int main(int argc, char** argv) {
         QApplication::installTranslator(&translator);
     caudalera::style::apply(application);
 
-    caudalera::Session session;
+    caudalera::Session session(caudalera::ventanas(), caudalera::makeView);
     QObject::connect(&session, &caudalera::Session::ended, &application,
                      [](int status) { QApplication::exit(status); });
     session.start();

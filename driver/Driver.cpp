@@ -1,6 +1,8 @@
 #include "driver/Driver.h"
 
-#include "shell/Utf8.h"
+#include "app/registry.h"
+#include "shell/report/frmPadre.h"
+#include "shell/text/Utf8.h"
 
 #include <unordered_map>
 #include <utility>
@@ -55,7 +57,7 @@ void Driver::startProgram(const std::string& decimalSeparator, bool keepSettings
     platform->separator = decimalSeparator;
     program_.reset();
     platform_ = std::move(platform);
-    program_ = std::make_unique<Program>(*platform_);
+    program_ = std::make_unique<Program>(*platform_, ventanas());
     program_->start();
 }
 
@@ -137,7 +139,7 @@ Control& Driver::controlOf(const Request& request, const char* member) const {
 }
 
 frmPadre& Driver::padre() const {
-    if (frmPadre* padre = program_->padre())
+    if (frmPadre* padre = ventanaDeReportes(*program_))
         return *padre;
     throw RequestError("unknown window: frmPadre");
 }

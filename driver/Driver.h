@@ -2,9 +2,9 @@
 
 #include "driver/Request.h"
 
-#include "shell/Program.h"
-#include "shell/frmPadre.h"
-#include "tests/support/RecordingPlatform.h"
+#include "recording/RecordingPlatform.h"
+#include "shell/report/frmPadre.h"
+#include "shell/window/Program.h"
 
 #include <filesystem>
 #include <memory>

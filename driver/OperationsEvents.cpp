@@ -1,7 +1,7 @@
 #include "driver/Driver.h"
 
-#include "shell/Utf8.h"
-#include "tests/support/Act.h"
+#include "recording/Act.h"
+#include "shell/text/Utf8.h"
 
 #include <algorithm>
 

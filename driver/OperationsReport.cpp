@@ -1,4 +1,5 @@
 #include "driver/Driver.h"
+#include "shell/report/frmPadre.h"
 
 namespace caudalera {
 
@@ -33,7 +34,7 @@ Json documentOf(const frmDocumento& document) {
 } // namespace
 
 void Driver::report(const Request& /*request*/, Json& reply) {
-    const frmPadre* loaded = program_->padre();
+    const frmPadre* loaded = ventanaDeReportes(*program_);
     reply["open"] = loaded != nullptr;
     reply["documents"] = Json::array();
     reply["active"] = nullptr;

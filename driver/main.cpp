@@ -3,8 +3,8 @@
 
 #include "driver/Driver.h"
 
-#include "shell/FilePath.h"
-#include "shell/Utf8.h"
+#include "shell/files/FilePath.h"
+#include "shell/text/Utf8.h"
 
 #include <iostream>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "evapotranspiration/frmPenman.h"
 
 #include "evapotranspiration/radiacionSolar.h"
-#include "evapotranspiration/solarTables.h"
-#include "shell/Text.h"
+#include "evapotranspiration/tablasSolares.h"
+#include "shell/text/Text.h"
 
 #include <string>
 #include <string_view>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "evapotranspiration/penman.h"
-#include "shell/CalculationWindow.h"
-#include "shell/Integer16.h"
+#include "shell/numbers/Integer16.h"
+#include "shell/worksheet/CalculationWindow.h"
 
 #include <optional>
 #include <utility>

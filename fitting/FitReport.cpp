@@ -1,6 +1,6 @@
 #include "fitting/FitWorksheet.h"
-#include "shell/Program.h"
-#include "shell/Text.h"
+#include "shell/text/Text.h"
+#include "shell/window/Program.h"
 
 namespace caudalera {
 

@@ -1,8 +1,8 @@
 #include "fitting/FitWorksheet.h"
 
 #include "fitting/smirnovKolmogorov.h"
-#include "shell/Messages.h"
-#include "shell/Text.h"
+#include "shell/text/Text.h"
+#include "shell/worksheet/Messages.h"
 
 namespace caudalera {
 

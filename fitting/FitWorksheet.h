@@ -1,10 +1,10 @@
 #pragma once
 
 #include "fitting/FitTexts.h"
-#include "shell/DataEntry.h"
-#include "shell/Graph.h"
-#include "shell/Series.h"
-#include "shell/Worksheet.h"
+#include "shell/numbers/Series.h"
+#include "shell/window/Graph.h"
+#include "shell/worksheet/DataEntry.h"
+#include "shell/worksheet/Worksheet.h"
 
 #include <array>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Series.h"
+#include "shell/numbers/Series.h"
 
 namespace caudalera {
 

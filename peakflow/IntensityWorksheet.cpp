@@ -1,8 +1,8 @@
 #include "peakflow/IntensityWorksheet.h"
 
-#include "peakflow/concentrationTime.h"
+#include "peakflow/tiempoConcentracion.h"
 #include "regression/gaussJordan.h"
-#include "shell/Text.h"
+#include "shell/text/Text.h"
 
 #include <utility>
 

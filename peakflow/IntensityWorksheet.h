@@ -1,9 +1,9 @@
 #pragma once
 
-#include "peakflow/provincialIntensity.h"
+#include "peakflow/intensidadProvincial.h"
 #include "regression/ajustePotencial.h"
-#include "shell/BoundedArray.h"
-#include "shell/Worksheet.h"
+#include "shell/numbers/BoundedArray.h"
+#include "shell/worksheet/Worksheet.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "peakflow/RainfallFlowWindow.h"
 
-#include "shell/Text.h"
+#include "shell/text/Text.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "peakflow/IntensityWorksheet.h"
-#include "shell/BoundedArray.h"
-#include "shell/Integer16.h"
+#include "shell/numbers/BoundedArray.h"
+#include "shell/numbers/Integer16.h"
 
 #include <array>
 #include <string>

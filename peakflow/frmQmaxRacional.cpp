@@ -1,7 +1,7 @@
 #include "peakflow/frmQmaxRacional.h"
 
-#include "peakflow/runoffCoefficients.h"
-#include "shell/Text.h"
+#include "peakflow/coeficientesEscorrentia.h"
+#include "shell/text/Text.h"
 
 namespace caudalera {
 

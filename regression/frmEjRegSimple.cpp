@@ -1,8 +1,8 @@
 #include "regression/frmEjRegSimple.h"
 
 #include "regression/textosRegresion.h"
-#include "shell/Messages.h"
-#include "shell/Text.h"
+#include "shell/text/Text.h"
+#include "shell/worksheet/Messages.h"
 
 #include <string_view>
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "regression/ajusteLineal.h"
-#include "shell/BoundedArray.h"
-#include "shell/DataEntry.h"
-#include "shell/Worksheet.h"
+#include "shell/numbers/BoundedArray.h"
+#include "shell/worksheet/DataEntry.h"
+#include "shell/worksheet/Worksheet.h"
 
 #include <array>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Real.h"
+#include "shell/numbers/Real.h"
 
 #include <optional>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "stats/frmParamEsta.h"
 
-#include "shell/Text.h"
+#include "shell/text/Text.h"
 
 namespace caudalera {
 

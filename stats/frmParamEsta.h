@@ -1,9 +1,9 @@
 #pragma once
 
-#include "shell/DataEntry.h"
-#include "shell/Series.h"
-#include "shell/Worksheet.h"
-#include "stats/parametrosComunes.h"
+#include "shell/numbers/Series.h"
+#include "shell/numbers/parametrosComunes.h"
+#include "shell/worksheet/DataEntry.h"
+#include "shell/worksheet/Worksheet.h"
 
 namespace caudalera {
 

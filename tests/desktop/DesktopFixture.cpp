@@ -1,7 +1,7 @@
 #include "tests/desktop/DesktopFixture.h"
 
-#include "desktop/GridView.h"
-#include "desktop/Style.h"
+#include "desktop/grid/GridView.h"
+#include "desktop/style/Style.h"
 
 #include <QAbstractButton>
 #include <QPushButton>

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "desktop/Session.h"
+#include "app/registry.h"
+#include "desktop/Views.h"
+#include "desktop/session/Session.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -36,7 +38,7 @@ public:
     DesktopFixture(const DesktopFixture&) = delete;
     DesktopFixture& operator=(const DesktopFixture&) = delete;
 
-    Session session;
+    Session session{ventanas(), makeView};
     Program& program() { return session.program(); }
 
     /// Opens a window as its menu entry does and waits until it has the keyboard.

@@ -2,7 +2,7 @@
 
 #include "tests/evapotranspiration/PenmanTest.h"
 
-#include "shell/CalculationWindow.h"
+#include "shell/worksheet/CalculationWindow.h"
 
 #include <vector>
 

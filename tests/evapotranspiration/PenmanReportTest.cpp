@@ -2,7 +2,7 @@
 
 #include "tests/evapotranspiration/PenmanTest.h"
 
-#include "shell/frmPadre.h"
+#include "shell/report/frmPadre.h"
 
 namespace caudalera {
 namespace {
@@ -76,7 +76,7 @@ TEST_F(PenmanTest, ReportsTheFieldsAsTheyStandBeforeACalculation) {
 
 TEST_F(PenmanTest, CentresTheTitleAndIndentsTheWholeReport) {
     click("bReporte");
-    const auto& paragraphs = program.padre()->active()->rtfText.paragraphs();
+    const auto& paragraphs = ventanaDeReportes(program)->active()->rtfText.paragraphs();
     EXPECT_EQ(paragraphs[0].format.alignment, Alignment::center);
     EXPECT_EQ(paragraphs[2].format.alignment, Alignment::center);
     EXPECT_EQ(paragraphs[5].text() + "\n", rule);

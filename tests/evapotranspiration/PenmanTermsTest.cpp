@@ -2,7 +2,7 @@
 
 #include "evapotranspiration/penman.h"
 
-#include "shell/RuntimeFailure.h"
+#include "shell/numbers/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Monthly solar tables, and what the sun gives above the atmosphere.
 
 #include "evapotranspiration/radiacionSolar.h"
-#include "evapotranspiration/solarTables.h"
-#include "shell/RuntimeFailure.h"
+#include "evapotranspiration/tablasSolares.h"
+#include "shell/numbers/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What the window of the normal distribution shows when it opens.
 
-#include "shell/Window.h"
+#include "shell/window/Window.h"
 #include "tests/fitting/DisNormalTest.h"
 
 namespace caudalera::testing {

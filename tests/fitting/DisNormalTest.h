@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/Graph.h"
-#include "shell/MSFlexGrid.h"
+#include "shell/window/Graph.h"
+#include "shell/window/MSFlexGrid.h"
 #include "tests/support/SeriesBytes.h"
 #include "tests/support/WindowTest.h"
 

@@ -2,7 +2,7 @@
 
 #include "tests/regression/EjRegSimpleTest.h"
 
-#include "shell/frmPadre.h"
+#include "shell/report/frmPadre.h"
 
 namespace caudalera {
 namespace {
@@ -65,7 +65,7 @@ TEST_F(EjRegSimpleTest, ReportsCellsAsTheyAreShown) {
 
 TEST_F(EjRegSimpleTest, CentresTheTitleAndIndentsTheWholeReport) {
     click("bReporte");
-    const auto& paragraphs = program.padre()->active()->rtfText.paragraphs();
+    const auto& paragraphs = ventanaDeReportes(program)->active()->rtfText.paragraphs();
     EXPECT_EQ(paragraphs[0].format.alignment, Alignment::center);
     EXPECT_EQ(paragraphs[2].format.alignment, Alignment::center);
     EXPECT_EQ(paragraphs[5].text(), "Pares de datos X,Y:");

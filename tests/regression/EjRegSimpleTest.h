@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/MSFlexGrid.h"
+#include "shell/window/MSFlexGrid.h"
 #include "tests/support/WindowTest.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 // Gauss-Jordan elimination with the first pivot that is not zero.
 
 #include "regression/gaussJordan.h"
-#include "shell/RuntimeFailure.h"
+#include "shell/numbers/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 

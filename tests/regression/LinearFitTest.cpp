@@ -2,7 +2,7 @@
 
 #include "regression/ajusteLineal.h"
 #include "regression/textosRegresion.h"
-#include "shell/RuntimeFailure.h"
+#include "shell/numbers/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The power fit Imax = K T^m D^n.
 
 #include "regression/ajustePotencial.h"
-#include "shell/RuntimeFailure.h"
+#include "shell/numbers/RuntimeFailure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,19 @@
 #include "tests/support/WindowTest.h"
 
-#include "shell/frmPadre.h"
+#include "shell/report/frmPadre.h"
 
 #include <stdexcept>
 #include <utility>
 
 namespace caudalera {
+
+std::vector<WindowEntry> withProgramWindows(std::vector<WindowEntry> windows) {
+    for (const WindowEntry& entry : ventanas()) {
+        if (entry.name == "frmCaudalera" || entry.name == "frmacerc" || entry.name == "frmPadre")
+            windows.push_back(entry);
+    }
+    return windows;
+}
 
 WindowTest::WindowTest(const std::vector<WindowEntry>& opens) : program(platform, opens) {
     const auto* const info = ::testing::UnitTest::GetInstance()->current_test_info();
@@ -101,7 +109,7 @@ std::vector<Message> WindowTest::messages() {
 }
 
 std::string WindowTest::report() {
-    const auto* padre = program.padre();
+    const auto* padre = ventanaDeReportes(program);
     return padre && padre->active() ? padre->active()->rtfText.text() : std::string();
 }
 

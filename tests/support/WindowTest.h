@@ -1,9 +1,10 @@
 #pragma once
 
-#include "tests/support/Act.h"
-#include "tests/support/RecordingPlatform.h"
+#include "app/registry.h"
+#include "recording/Act.h"
+#include "recording/RecordingPlatform.h"
 
-#include "shell/Program.h"
+#include "shell/window/Program.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -13,11 +14,14 @@
 
 namespace caudalera {
 
+/// These windows and those of the program itself: the main, the about and the report window.
+std::vector<WindowEntry> withProgramWindows(std::vector<WindowEntry> windows);
+
 /// A started program on the recording platform, with what a test says and reads in one word each.
 /// Every test has an empty folder of its own.
 class WindowTest : public ::testing::Test {
 protected:
-    /// `opens`: the windows that the program can open; those of the main menu, if not given.
+    /// `opens`: the windows that the program can open; all that there are, if not given.
     explicit WindowTest(const std::vector<WindowEntry>& opens = ventanas());
     ~WindowTest() override;
 

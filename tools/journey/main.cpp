@@ -3,8 +3,10 @@
 // saves it as RTF. Screenshots of each step and the report go into the folder. Ends with a
 // non-zero status, saying why, at the first step that does not show what it should.
 
-#include "desktop/Session.h"
-#include "desktop/Style.h"
+#include "app/registry.h"
+#include "desktop/Views.h"
+#include "desktop/session/Session.h"
+#include "desktop/style/Style.h"
 
 #include <QApplication>
 #include <QDir>
@@ -193,7 +195,7 @@ int main(int argc, char** argv) {
     caudalera::style::apply(application);
 
     Journey journey(QFileInfo(argv[1]).absoluteFilePath(), QDir(argv[2]).absolutePath());
-    caudalera::Session session;
+    caudalera::Session session(caudalera::ventanas(), caudalera::makeView);
     session.start();
     journey.run();
     return 0;

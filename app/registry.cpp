@@ -1,0 +1,37 @@
+#include "app/registry.h"
+
+#include "evapotranspiration/frmPenman.h"
+#include "fitting/frmDisNormal.h"
+#include "peakflow/frmQmaxRacional.h"
+#include "regression/frmEjRegSimple.h"
+#include "shell/main/frmCaudalera.h"
+#include "shell/main/frmacerc.h"
+#include "shell/report/frmPadre.h"
+#include "stats/frmParamEsta.h"
+
+namespace caudalera {
+
+namespace {
+
+template <typename Form>
+std::unique_ptr<Window> create(Program& program) {
+    return std::make_unique<Form>(program);
+}
+
+} // namespace
+
+const std::vector<WindowEntry>& ventanas() {
+    static const std::vector<WindowEntry> entries = {
+        {"frmCaudalera", create<frmCaudalera>},
+        {"frmPadre", create<frmPadre>},
+        {"frmacerc", create<frmacerc>},
+        {"frmParamEsta", create<frmParamEsta>},
+        {"frmEjRegSimple", create<frmEjRegSimple>},
+        {"frmDisNormal", create<frmDisNormal>},
+        {"frmQmaxRacional", create<frmQmaxRacional>},
+        {"frmPenman", create<frmPenman>},
+    };
+    return entries;
+}
+
+} // namespace caudalera

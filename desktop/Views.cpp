@@ -1,0 +1,19 @@
+#include "desktop/Views.h"
+
+#include "desktop/report/ReportWindow.h"
+#include "desktop/windows/MainWindow.h"
+#include "desktop/windows/WindowView.h"
+#include "shell/main/frmCaudalera.h"
+#include "shell/report/frmPadre.h"
+
+namespace caudalera {
+
+View* makeView(Session& session, Window& window) {
+    if (auto* padre = dynamic_cast<frmPadre*>(&window))
+        return new ReportWindow(session, *padre);
+    if (auto* principal = dynamic_cast<frmCaudalera*>(&window))
+        return new MainWindow(session, *principal);
+    return new WindowView(session, window);
+}
+
+} // namespace caudalera

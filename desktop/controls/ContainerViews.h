@@ -1,0 +1,42 @@
+#pragma once
+
+#include "desktop/controls/ControlView.h"
+
+#include <vector>
+
+class QGroupBox;
+class QLabel;
+class QTabWidget;
+
+namespace caudalera {
+
+/// A frame as a group box.
+class FrameView : public ControlView {
+public:
+    FrameView(Frame& frame, QWidget* parent);
+
+    QGroupBox& box() const;
+    void sync() override;
+};
+
+/// Tabs with a page each.
+class TabsView : public ControlView {
+public:
+    TabsView(Session& session, Tabs& tabs, QWidget* parent);
+
+    QTabWidget& tabs() const;
+    QWidget* focusTarget() const override;
+    void sync() override;
+};
+
+class StatusView : public ControlView {
+public:
+    StatusView(StatusBar& bar, QWidget* parent);
+
+    void sync() override;
+
+private:
+    std::vector<QLabel*> panels_;
+};
+
+} // namespace caudalera

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "shell/window/Control.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace caudalera {
+
+class Session;
+
+inline QString toQString(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+/// A control of the model and the widget that shows it. The widget belongs to its parent widget,
+/// as all widgets do.
+class ControlView {
+public:
+    ControlView(Control& control, QWidget& widget) : control_(control), widget_(widget) {}
+    virtual ~ControlView() = default;
+    ControlView(const ControlView&) = delete;
+    ControlView& operator=(const ControlView&) = delete;
+
+    Control& control() const { return control_; }
+    QWidget& widget() const { return widget_; }
+    /// What gets the keyboard when the control has the focus; nullptr if it takes none.
+    virtual QWidget* focusTarget() const { return nullptr; }
+    /// Brings the widget in line with the control: here what all controls have.
+    virtual void sync();
+    /// The control is gone: reads nothing of it any more.
+    virtual void detach() {}
+
+private:
+    Control& control_;
+    QWidget& widget_;
+};
+
+} // namespace caudalera

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "desktop/controls/ControlView.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace caudalera {
+
+/// A text field of the model as a line edit. What the user types reaches the model as the change
+/// of its text; ENTER, Escape, Up and Down as keys. Typing passes the field's filter, pasting does
+/// not.
+class FieldEdit : public QLineEdit {
+    Q_OBJECT
+
+public:
+    FieldEdit(Session& session, TextBox& box, QWidget* parent);
+
+    void sync();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+
+    Session& session() const { return session_; }
+    TextBox& box() const { return box_; }
+
+private:
+    bool accepts(const QString& typed) const;
+    /// Caret and selection are part of the control: what the user does to them goes there.
+    void tellSelection();
+    void showSelection();
+    QSize sizeFor(int characters) const;
+
+    Session& session_;
+    TextBox& box_;
+};
+
+class TextView : public ControlView {
+public:
+    TextView(Session& session, TextBox& box, QWidget* parent)
+        : TextView(box, *new FieldEdit(session, box, parent)) {}
+
+    QWidget* focusTarget() const override { return &edit_; }
+    void sync() override;
+
+private:
+    TextView(TextBox& box, FieldEdit& edit) : ControlView(box, edit), edit_(edit) {}
+
+    FieldEdit& edit_;
+};
+
+/// A list of the model: a drop-down that can be typed into.
+class ListBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    ListBox(Session& session, List& list, QWidget* parent);
+
+    void sync();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    Session& session_;
+    List& list_;
+};
+
+class ListView : public ControlView {
+public:
+    ListView(Session& session, List& list, QWidget* parent)
+        : ListView(list, *new ListBox(session, list, parent)) {}
+
+    QWidget* focusTarget() const override { return &box_; }
+    void sync() override;
+
+private:
+    ListView(List& list, ListBox& box) : ControlView(list, box), box_(box) {}
+
+    ListBox& box_;
+};
+
+/// A label whose text runs over as many lines as the width asks for, and takes the room of some
+/// lines in any case.
+class WrappingLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    WrappingLabel(int reservedLines, QWidget* parent);
+
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+private:
+    int reservedLines_;
+};
+
+class LabelView : public ControlView {
+public:
+    LabelView(Label& label, QWidget* parent);
+
+    void sync() override;
+
+private:
+    QLabel& label() const { return static_cast<QLabel&>(widget()); }
+};
+
+} // namespace caudalera

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "desktop/controls/ControlView.h"
+#include "desktop/grid/CellDelegate.h"
+#include "desktop/grid/GridModel.h"
+
+#include <QTableView>
+
+namespace caudalera {
+
+class GridEditor;
+
+/// A grid of the model with its floating edit box. Current cell and selection are the model's;
+/// keys, clicks and scrolling go there. Cells can be copied from any grid, blocks of numbers
+/// pasted into one that can be edited.
+class GridView : public QTableView {
+    Q_OBJECT
+
+public:
+    GridView(Session& session, MSFlexGrid& grid, QWidget* parent);
+
+    void sync();
+    void detach();
+    /// nullptr for a grid that can't be edited.
+    GridEditor* editor() const { return editor_; }
+
+    /// The selected cells, columns parted by tabs, rows by line ends; empty rows behind the last
+    /// one that holds something are left out.
+    QString selectedText() const;
+    void copy() const;
+    void paste();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void updateGeometries() override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    struct Cell {
+        long row;
+        long col;
+    };
+
+    void typeText(const QString& text);
+    /// Moves the current cell, or with Shift the other end of the selection, as far as it can go.
+    void step(long rows, long cols, bool selecting);
+    void moveTo(Cell cell, bool selecting);
+    void selectAllCells();
+    bool navigate(const QKeyEvent& event);
+    /// The cell at a point, or the nearest one.
+    Cell nearestCell(const QPoint& point) const;
+    void userScrolled(int value);
+    void fitColumns();
+    int columnMinimum(int col) const;
+    int preferredWidth(int col) const;
+    int heightOf(int rows) const;
+    void syncScroll(bool moved);
+    void syncEditor();
+    void openMenu(const QPoint& globalPosition);
+
+    Session& session_;
+    MSFlexGrid& grid_;
+    GridModel model_;
+    CellDelegate delegate_;
+    GridEditor* editor_ = nullptr;
+    std::uint64_t revision_ = 0;
+    Cell current_{-1, -1};
+    Cell selectionEnd_{-1, -1};
+    long topRow_ = -1;
+    int fittedWidth_ = -1;
+    bool resizing_ = false;
+    bool dragging_ = false;
+};
+
+class GridControlView : public ControlView {
+public:
+    GridControlView(Session& session, MSFlexGrid& grid, QWidget* parent)
+        : GridControlView(grid, *new GridView(session, grid, parent)) {}
+
+    QWidget* focusTarget() const override { return &view_; }
+    void sync() override;
+    void detach() override { view_.detach(); }
+    GridView& view() const { return view_; }
+    MSFlexGrid& grid() const { return static_cast<MSFlexGrid&>(control()); }
+
+private:
+    GridControlView(MSFlexGrid& grid, GridView& view) : ControlView(grid, view), view_(view) {}
+
+    GridView& view_;
+};
+
+} // namespace caudalera

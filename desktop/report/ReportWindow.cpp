@@ -1,0 +1,243 @@
+#include "desktop/report/ReportWindow.h"
+
+#include "desktop/report/DocumentFrame.h"
+#include "desktop/report/DocumentView.h"
+#include "desktop/session/Session.h"
+#include "desktop/style/Style.h"
+#include "shell/report/frmPadre.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <algorithm>
+
+namespace caudalera {
+
+namespace {
+
+constexpr double twipsPerInch = 1440;
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+/// The keys that such commands have everywhere; empty for the others.
+QList<QKeySequence> shortcutsOf(const frmPadre& padre, const MenuEntry& entry) {
+    const std::pair<const MenuEntry*, QKeySequence::StandardKey> keys[] = {
+        {&padre.mnuFileNew, QKeySequence::New},     {&padre.mnuFileOpen, QKeySequence::Open},
+        {&padre.mnuFileSave, QKeySequence::Save},   {&padre.mnuFilePrint, QKeySequence::Print},
+        {&padre.mnuEditCut, QKeySequence::Cut},     {&padre.mnuEditCopy, QKeySequence::Copy},
+        {&padre.mnuEditPaste, QKeySequence::Paste},
+    };
+    for (const auto& [each, key] : keys)
+        if (each == &entry)
+            return QKeySequence::keyBindings(key);
+    return {};
+}
+
+/// The rectangle moved, and where it must be shrunk, so that all of it lies on a screen.
+QRect onScreen(QRect rect) {
+    const QScreen* screen = QGuiApplication::screenAt(rect.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return rect;
+    const QRect room = screen->availableGeometry();
+    rect.setSize(rect.size().boundedTo(room.size()));
+    rect.moveLeft(std::clamp(rect.left(), room.left(), room.right() + 1 - rect.width()));
+    rect.moveTop(std::clamp(rect.top(), room.top(), room.bottom() + 1 - rect.height()));
+    return rect;
+}
+
+} // namespace
+
+ReportWindow::ReportWindow(Session& session, frmPadre& padre)
+    : session_(session), padre_(padre), area_(new QMdiArea(this)) {
+    setObjectName(text(padre.name()));
+    setWindowTitle(text(padre.caption));
+    setWindowIcon(style::icon(QStringLiteral("app")));
+    setCentralWidget(area_);
+    area_->setBackground(palette().mid());
+    buildMenu();
+    for (std::size_t i = 0; i < padre_.sbStatusBar.panels.size(); ++i) {
+        panels_.push_back(new QLabel(this));
+        statusBar()->addWidget(panels_.back(), 1);
+    }
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        const auto* frame = static_cast<DocumentFrame*>(window);
+        if (!frame || session_.busy() || !loaded() || padre_.active() == frame->document())
+            return;
+        session_.act([&] {
+            for (const auto& document : padre_.documents())
+                if (document.get() == frame->document())
+                    padre_.activate(*document);
+        });
+    });
+    place();
+    sync();
+}
+
+ReportWindow::~ReportWindow() {
+    // The area tells of windows that go; nobody is left to hear it.
+    area_->disconnect(this);
+}
+
+bool ReportWindow::loaded() const {
+    return ventanaDeReportes(session_.program()) == &padre_;
+}
+
+void ReportWindow::buildMenu() {
+    for (const MenuEntry* title : padre_.menuBar)
+        menuBar()->addMenu(menuOf(*title));
+}
+
+QMenu* ReportWindow::menuOf(const MenuEntry& title) {
+    auto* menu = new QMenu(text(title.caption), this);
+    for (MenuEntry* entry : title.entries) {
+        if (!entry) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(text(entry->caption));
+        action->setObjectName(text(entry->name()));
+        action->setShortcuts(shortcutsOf(padre_, *entry));
+        connect(action, &QAction::triggered, this, [this, entry] { click(*entry); });
+        actions_.emplace_back(entry, action);
+    }
+    if (&title == &padre_.mnuEdit)
+        editMenu_ = menu;
+    return menu;
+}
+
+void ReportWindow::click(MenuEntry& entry) {
+    recordPlace();
+    session_.act([&] { session_.program().click(entry); });
+}
+
+void ReportWindow::place() {
+    const auto& at = padre_.place;
+    const auto across = [this](double twips) {
+        return qRound(twips * logicalDpiX() / twipsPerInch);
+    };
+    const auto down = [this](double twips) { return qRound(twips * logicalDpiY() / twipsPerInch); };
+    // Where a screen is gone since, the window comes back into sight, but the place that was
+    // stored stays until the user moves it.
+    placed_ = onScreen({across(at.left), down(at.top), across(at.width), down(at.height)});
+    resize(placed_.size());
+    move(placed_.topLeft());
+}
+
+void ReportWindow::recordPlace() {
+    if (!isVisible() || session_.busy() || !loaded())
+        return;
+    const bool minimized = isMinimized();
+    const QRect now = minimized ? placed_ : QRect(pos(), size());
+    if (now == placed_ && minimized == padre_.place.minimized)
+        return;
+    session_.act([&] {
+        auto& at = padre_.place;
+        at.minimized = minimized;
+        const auto record = [](double& twips, int before, int after, int dpi) {
+            // What has not moved keeps its twips, which pixels are too coarse to tell.
+            if (before != after)
+                twips = after * twipsPerInch / dpi;
+        };
+        record(at.left, placed_.x(), now.x(), logicalDpiX());
+        record(at.top, placed_.y(), now.y(), logicalDpiY());
+        record(at.width, placed_.width(), now.width(), logicalDpiX());
+        record(at.height, placed_.height(), now.height(), logicalDpiY());
+    });
+    placed_ = now;
+}
+
+void ReportWindow::sync() {
+    for (const auto& [entry, action] : actions_) {
+        if (action->text() != text(entry->caption))
+            action->setText(text(entry->caption));
+        if (action->isEnabled() != entry->enabled)
+            action->setEnabled(entry->enabled);
+    }
+    for (std::size_t i = 0; i < panels_.size(); ++i)
+        if (const QString panel = text(padre_.sbStatusBar.panels[i]); panels_[i]->text() != panel)
+            panels_[i]->setText(panel);
+    syncDocuments();
+}
+
+void ReportWindow::syncDocuments() {
+    const auto& documents = padre_.documents();
+    bool maximized = false;
+    std::erase_if(frames_, [&](DocumentFrame* frame) {
+        const bool open = std::any_of(documents.begin(), documents.end(), [&](const auto& each) {
+            return each.get() == frame->document();
+        });
+        if (!open) {
+            maximized = maximized || frame->isMaximized();
+            area_->removeSubWindow(frame);
+            frame->hide();
+            frame->deleteLater();
+        }
+        return !open;
+    });
+    for (const auto& document : documents) {
+        if (DocumentFrame* frame = frameOf(document.get())) {
+            frame->sync();
+            continue;
+        }
+        auto* view = new DocumentView(session_, padre_, *document, *editMenu_);
+        frmDocumento& shown = *document;
+        auto* frame = new DocumentFrame(shown, view, [this, &shown] {
+            if (loaded())
+                session_.act([&] { padre_.closeDocument(shown); });
+        });
+        frames_.push_back(frame);
+        area_->addSubWindow(frame);
+        // Reports are wide: the first document takes all the room, the others follow suit.
+        if (frames_.size() == 1)
+            frame->showMaximized();
+        else
+            frame->show();
+    }
+    DocumentFrame* active = frameOf(padre_.active());
+    if (active && area_->currentSubWindow() != active)
+        area_->setActiveSubWindow(active);
+    // The next one takes over the room of the one that went.
+    if (active && maximized)
+        active->showMaximized();
+}
+
+DocumentFrame* ReportWindow::frameOf(const frmDocumento* document) const {
+    const auto found = std::find_if(frames_.begin(), frames_.end(), [&](const auto* frame) {
+        return frame->document() == document;
+    });
+    return found == frames_.end() ? nullptr : *found;
+}
+
+void ReportWindow::closeEvent(QCloseEvent* event) {
+    if (!loaded())
+        return;
+    event->ignore();
+    recordPlace();
+    session_.act([this] { session_.program().close(padre_); });
+}
+
+void ReportWindow::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    recordPlace();
+}
+
+void ReportWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    recordPlace();
+}
+
+void ReportWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        recordPlace();
+}
+
+} // namespace caudalera

@@ -1,0 +1,237 @@
+#include "desktop/session/DesktopPlatform.h"
+
+#include "desktop/richtext/RichTextBridge.h"
+#include "desktop/session/Session.h"
+#include "shell/numbers/RuntimeFailure.h"
+#include "shell/report/frmDocumento.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QUrl>
+
+namespace caudalera {
+
+namespace {
+
+QString programTitle() {
+    return QStringLiteral("Caudalera");
+}
+QString helpFile() {
+    return QStringLiteral("Ayuda.chm");
+}
+
+QSettings settings() {
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, programTitle(), programTitle());
+}
+
+QString settingPath(const std::string& key) {
+    return QStringLiteral("Settings/") + QString::fromStdString(key);
+}
+
+QString toQString(const std::filesystem::path& path) {
+    return QString::fromStdU16String(path.u16string());
+}
+
+/// A word of a command line with the prefix that the program writes taken to the fixed directory.
+QString mapped(const QString& word, const QString& fixedDirectory) {
+    const QString prefix = QStringLiteral("c:\\Caudalera\\");
+    if (!word.startsWith(prefix, Qt::CaseInsensitive))
+        return word;
+    return QDir(fixedDirectory)
+        .filePath(word.mid(prefix.size()).replace(QLatin1Char('\\'), QLatin1Char('/')));
+}
+
+} // namespace
+
+QString nameFilter(const std::string& filter) {
+    const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString pattern = QStringLiteral("(%1)").arg(parts[i + 1]);
+        filters.append(parts[i].endsWith(pattern) ? parts[i]
+                                                  : parts[i] + QLatin1Char(' ') + pattern);
+    }
+    return filters.join(QStringLiteral(";;"));
+}
+
+void printImage(QPrinter& printer, const QPixmap& image) {
+    printer.setPageOrientation(image.width() > image.height() ? QPageLayout::Landscape
+                                                              : QPageLayout::Portrait);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return;
+    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+    const QSize size = image.size().scaled(page.size(), Qt::KeepAspectRatio);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRect({(page.width() - size.width()) / 2, 0}, size), image);
+}
+
+DesktopPlatform::DesktopPlatform(Session& session) : session_(session) {}
+
+DesktopPlatform::~DesktopPlatform() = default;
+
+QWidget* DesktopPlatform::parentForDialogs() const {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const Window* front = session_.program().front();
+    return front ? session_.viewOf(*front) : nullptr;
+}
+
+void DesktopPlatform::showBox(const QString& text, const QString& title, Icon icon) const {
+    QMessageBox box(parentForDialogs());
+    box.setWindowTitle(title.isEmpty() ? programTitle() : title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    if (icon == Icon::information) {
+        box.setIcon(QMessageBox::Information);
+    } else if (icon == Icon::error) {
+        box.setIcon(QMessageBox::Critical);
+    }
+    box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+void DesktopPlatform::showMessage(const Message& message) {
+    session_.sync();
+    showBox(QString::fromStdString(message.text), QString::fromStdString(message.title),
+            message.icon);
+}
+
+std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dialog) {
+    session_.sync();
+    QFileDialog box(parentForDialogs(), QString::fromStdString(dialog.title));
+    box.setAcceptMode(dialog.kind == FileDialog::Kind::open ? QFileDialog::AcceptOpen
+                                                            : QFileDialog::AcceptSave);
+    // Any name may be given: one that cannot be loaded is the command's affair.
+    box.setFileMode(QFileDialog::AnyFile);
+    box.setOption(QFileDialog::DontConfirmOverwrite);
+    box.setNameFilter(nameFilter(dialog.filter));
+    if (dialog.fileName.empty()) {
+        box.setDirectory(QApplication::applicationDirPath());
+    } else {
+        const QFileInfo last(QString::fromStdString(dialog.fileName));
+        box.setDirectory(last.absolutePath());
+        box.selectFile(last.fileName());
+    }
+    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(box.selectedFiles().constFirst()).toStdString();
+}
+
+bool DesktopPlatform::showPrintDialog(const PrintDialog& dialog) {
+    session_.sync();
+    auto printer = std::make_unique<QPrinter>();
+    QPrintDialog box(printer.get(), parentForDialogs());
+    box.setWindowTitle(QString::fromStdString(dialog.title));
+    box.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    box.setOption(QAbstractPrintDialog::PrintSelection, dialog.selection);
+    if (dialog.selection)
+        box.setPrintRange(QAbstractPrintDialog::Selection);
+    if (box.exec() != QDialog::Accepted)
+        return false;
+    printer_ = std::move(printer);
+    return true;
+}
+
+void DesktopPlatform::printWindow(const Window& window) {
+    session_.sync();
+    QWidget* view = session_.viewOf(window);
+    const QPrinterInfo printerInfo = QPrinterInfo::defaultPrinter();
+    if (!view || printerInfo.isNull())
+        return;
+    QPrinter printer(printerInfo, QPrinter::HighResolution);
+    printImage(printer, view->grab());
+}
+
+void DesktopPlatform::printDocument(const frmDocumento& document, bool selectionOnly) {
+    if (!printer_)
+        return;
+
+    const RichText& text = document.rtfText;
+    richtext::print(selectionOnly ? text.selection() : text, *printer_);
+}
+
+std::string DesktopPlatform::clipboardText() {
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
+void DesktopPlatform::setClipboardText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+std::optional<std::string> DesktopPlatform::setting(const std::string& key) {
+    const QVariant value = settings().value(settingPath(key));
+    if (!value.isValid())
+        return std::nullopt;
+    return value.toString().toStdString();
+}
+
+void DesktopPlatform::setSetting(const std::string& key, const std::string& value) {
+    settings().setValue(settingPath(key), QString::fromStdString(value));
+}
+
+bool DesktopPlatform::startProcess(const std::string& commandLine) {
+    const QString directory = toQString(fixedDirectory());
+    QStringList words =
+        QString::fromStdString(commandLine).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (QString& word : words)
+        word = mapped(word, directory);
+    if (words.isEmpty())
+        return false;
+    const QString viewer = words.takeFirst();
+    if (QProcess::startDetached(viewer, words))
+        return true;
+    return !words.isEmpty() && words.constLast().endsWith(helpFile()) && openHelp();
+}
+
+bool DesktopPlatform::openHelp() {
+    const QDir directory(toQString(fixedDirectory()));
+    return directory.exists(helpFile()) &&
+           QDesktopServices::openUrl(QUrl::fromLocalFile(directory.filePath(helpFile())));
+}
+
+std::filesystem::path DesktopPlatform::fixedDirectory() {
+#ifdef Q_OS_WIN
+    return "C:\\Caudalera\\";
+#else
+    const QString named = qEnvironmentVariable("CAUDALERA_DIR");
+    if (!named.isEmpty())
+        return named.toStdU16String();
+    // Installed and in the build tree alike, the data lie beside the folder of the program.
+    return QDir::cleanPath(QDir(QApplication::applicationDirPath())
+                               .filePath(QStringLiteral("../share/caudalera")))
+        .toStdU16String();
+#endif
+}
+
+std::string DesktopPlatform::decimalSeparator() {
+    const QString named = qEnvironmentVariable("CAUDALERA_DECIMAL");
+    return (named.isEmpty() ? QLocale::system().decimalPoint() : named).toStdString();
+}
+
+void DesktopPlatform::endProgram(const Ending& ending) {
+    if (ending.reason == Ending::Reason::fatal) {
+        session_.sync();
+        showBox(QStringLiteral("Error '%1' en tiempo de ejecución:\n\n%2")
+                    .arg(ending.number)
+                    .arg(QString::fromStdString(nombreFallo(ending.number))),
+                programTitle(), Icon::error);
+    }
+    session_.end(ending);
+}
+
+} // namespace caudalera

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "shell/window/Platform.h"
+
+#include <QString>
+#include <memory>
+
+class QPixmap;
+class QPrinter;
+class QWidget;
+
+namespace caudalera {
+
+class Session;
+
+/// The model's door outward, with Qt: message boxes, dialogs, printers, clipboard, settings.
+class DesktopPlatform : public Platform {
+public:
+    explicit DesktopPlatform(Session& session);
+    ~DesktopPlatform() override;
+
+    /// Brings the views in line first, so that the user sees what the handler has written so far.
+    void showMessage(const Message& message) override;
+    std::optional<std::string> showFileDialog(const FileDialog& dialog) override;
+    bool showPrintDialog(const PrintDialog& dialog) override;
+    /// Without a printer nothing happens.
+    void printWindow(const Window& window) override;
+    void printDocument(const frmDocumento& document, bool selectionOnly) override;
+
+    std::string clipboardText() override;
+    void setClipboardText(const std::string& text) override;
+
+    std::optional<std::string> setting(const std::string& key) override;
+    void setSetting(const std::string& key, const std::string& value) override;
+
+    /// Paths below c:\Caudalera\ are taken to the fixed directory. Where the help viewer is not
+    /// there, the platform's own viewer of the help file takes its place.
+    bool startProcess(const std::string& commandLine) override;
+    /// What F1 does: opens the help file, silently nothing if there is none.
+    bool openHelp();
+    std::filesystem::path fixedDirectory() override;
+    std::string decimalSeparator() override;
+    void endProgram(const Ending& ending) override;
+
+private:
+    QWidget* parentForDialogs() const;
+    /// A box with one button; returns when it is pressed.
+    void showBox(const QString& text, const QString& title, Icon icon) const;
+
+    Session& session_;
+    std::unique_ptr<QPrinter> printer_;
+};
+
+/// Name filter of a dialog: "Valores de X|*.X" as "Valores de X (*.X)", several parted by ";;".
+QString nameFilter(const std::string& filter);
+
+/// Prints an image as large as the page allows, upright or across as suits it.
+void printImage(QPrinter& printer, const QPixmap& image);
+
+} // namespace caudalera

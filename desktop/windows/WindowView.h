@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/session/Session.h"
+#include "desktop/windows/ViewSet.h"
+
+#include <QWidget>
+
+namespace caudalera {
+
+/// A window of the model as a window of the desktop, built from its layout data: its frames and
+/// fields, the commands below them, the status bar.
+class WindowView : public QWidget, public View {
+    Q_OBJECT
+
+public:
+    WindowView(Session& session, Window& window);
+
+    QWidget& widget() override { return *this; }
+    void sync() override;
+    void retire() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// What can have the keyboard, in the order of the Tab key.
+    struct Focusable {
+        QWidget* widget;
+        Control* control;
+    };
+
+    void build();
+    void orderFocus();
+    void syncFocus();
+    /// The user has brought the keyboard to a widget.
+    void focused(const QObject* widget, Qt::FocusReason reason);
+    /// A first size that suits the content and the screen.
+    void takeFirstSize();
+
+    Session& session_;
+    Window& window_;
+    ViewSet views_;
+    std::vector<Focusable> focusChain_;
+    bool retired_ = false;
+};
+
+} // namespace caudalera

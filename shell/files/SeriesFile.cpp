@@ -1,0 +1,102 @@
+#include "shell/files/SeriesFile.h"
+
+#include "shell/files/FilePath.h"
+#include "shell/numbers/RuntimeFailure.h"
+
+#include <array>
+#include <bit>
+#include <limits>
+
+namespace caudalera {
+
+namespace {
+
+std::array<char, 4> toBytes(float value) {
+    const auto bits = std::bit_cast<std::uint32_t>(value);
+    std::array<char, 4> bytes{};
+    for (unsigned i = 0; i < 4; ++i)
+        bytes[i] = static_cast<char>(static_cast<unsigned char>(bits >> (8 * i)));
+    return bytes;
+}
+
+float fromBytes(const char* bytes) {
+    std::uint32_t bits = 0;
+    for (unsigned i = 0; i < 4; ++i)
+        bits |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
+    return std::bit_cast<float>(bits);
+}
+
+} // namespace
+
+SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields, Access access)
+    : variables_(variables), fields_(fields) {
+    if (variables.archivoUnoEnUso)
+        throw RuntimeFailure(Failure::fileInUse);
+    if (path.empty())
+        throw RuntimeFailure(Failure::fileNumber);
+    const auto file = filePath(path);
+    std::error_code error;
+    if (access == Access::read) {
+        if (!std::filesystem::is_regular_file(file, error))
+            throw RuntimeFailure(Failure::fileNotFound);
+        bytes_ = std::filesystem::file_size(file, error);
+        stream_.open(file, std::ios::in | std::ios::binary);
+    } else {
+        if (std::filesystem::is_directory(file, error))
+            throw RuntimeFailure(Failure::fileAccess);
+        // A file that is still to be made counts as an error of the question.
+        error.clear();
+        stream_.open(file, std::ios::out | std::ios::binary | std::ios::trunc);
+    }
+    if (error || !stream_)
+        throw RuntimeFailure(Failure::fileAccess);
+    variables.archivoUnoEnUso = true;
+}
+
+Integer16 SeriesFile::records() const {
+    const auto count = bytes_ / (std::uintmax_t{4} * static_cast<std::uintmax_t>(fields_));
+    if (count > static_cast<std::uintmax_t>(std::numeric_limits<std::int16_t>::max()))
+        throw RuntimeFailure(Failure::overflow);
+    return {static_cast<long>(count)};
+}
+
+std::span<float> SeriesFile::buffer() {
+    switch (fields_) {
+    case 1:
+        return variables_.registroUno;
+    case 2:
+        return variables_.registroPar;
+    case 3:
+        return variables_.registroTrio;
+    default:
+        return variables_.registroCuarteto;
+    }
+}
+
+std::span<const float> SeriesFile::read() {
+    const auto record = buffer();
+    for (float& field : record) {
+        std::array<char, 4> bytes{};
+        if (!stream_.read(bytes.data(), bytes.size()))
+            throw RuntimeFailure(Failure::fileAccess);
+        field = fromBytes(bytes.data());
+    }
+    return record;
+}
+
+void SeriesFile::write(std::span<const float> record) {
+    for (const float field : record) {
+        const auto bytes = toBytes(field);
+        if (!stream_.write(bytes.data(), bytes.size()))
+            throw RuntimeFailure(Failure::fileAccess);
+    }
+}
+
+void SeriesFile::close() {
+    stream_.close();
+    if (!stream_)
+        throw RuntimeFailure(Failure::fileAccess);
+    variables_.archivoUnoEnUso = false;
+}
+
+} // namespace caudalera

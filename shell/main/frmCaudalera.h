@@ -1,0 +1,27 @@
+#pragma once
+
+#include "shell/window/Window.h"
+
+#include <deque>
+
+namespace caudalera {
+
+/// The main window: a cover picture, the exit button and the menu that opens the others.
+class frmCaudalera : public Window {
+public:
+    explicit frmCaudalera(Program& program);
+
+    Picture imgPortada{*this, "imgPortada", "portada"};
+    Button bsalir{*this, "bsalir", "&Salir"};
+
+private:
+    MenuEntry& title(const char* name, const char* text);
+    /// An entry that opens a window; it is enabled when that window exists.
+    void opens(MenuEntry& below, const char* name, const char* text, const char* window);
+    MenuEntry& entry(MenuEntry& below, const char* name, const char* text);
+    void ayuda();
+
+    std::deque<MenuEntry> entries_;
+};
+
+} // namespace caudalera

@@ -1,0 +1,234 @@
+#include "shell/window/Program.h"
+
+#include <algorithm>
+
+namespace caudalera {
+
+Program::~Program() = default;
+
+void Program::start() {
+    act([this] { show("frmCaudalera"); });
+}
+
+const WindowEntry* Program::entryOf(std::string_view name) const {
+    const auto found = std::find_if(opens_.begin(), opens_.end(),
+                                    [&](const WindowEntry& entry) { return entry.name == name; });
+    return found == opens_.end() ? nullptr : &*found;
+}
+
+Window* Program::find(std::string_view name) const {
+    for (const auto& window : windows_) {
+        if (window->name() == name)
+            return window.get();
+    }
+    return nullptr;
+}
+
+void Program::act(const std::function<void()>& handler) {
+    if (ended_)
+        return;
+    ++depth_;
+    try {
+        handler();
+    } catch (const RuntimeFailure& failure) {
+        if (!ended_)
+            ended_ = Ending{Ending::Reason::fatal, failure.number()};
+    } catch (...) {
+        --depth_;
+        throw;
+    }
+    --depth_;
+    if (depth_ == 0)
+        finish();
+}
+
+void Program::finish() {
+    unloaded_.clear();
+    if (windows_.empty() && !ended_)
+        ended_ = Ending{};
+    if (ended_ && !told_) {
+        told_ = true;
+        platform_.endProgram(*ended_);
+    }
+}
+
+void Program::click(Control& control) {
+    if (!control.enabled)
+        return;
+    act([&] {
+        Window& window = control.window();
+        if (auto* button = dynamic_cast<Button*>(&control)) {
+            window.setFocus(control);
+            if (button->onClick)
+                button->onClick();
+        } else if (auto* option = dynamic_cast<Option*>(&control)) {
+            window.setFocus(control);
+            option->set();
+        } else if (auto* entry = dynamic_cast<MenuEntry*>(&control)) {
+            if (entry->onClick)
+                entry->onClick();
+        } else if (control.kind() == ControlKind::text || control.kind() == ControlKind::list ||
+                   control.kind() == ControlKind::grid) {
+            window.setFocus(control);
+        }
+    });
+}
+
+void Program::changeText(TextBox& box, const std::string& text) {
+    if (!box.enabled)
+        return;
+    act([&] {
+        box.window().setFocus(box);
+        box.enterText(text);
+    });
+}
+
+void Program::choose(List& list, const std::string& text) {
+    if (!list.enabled)
+        return;
+    act([&] {
+        list.window().setFocus(list);
+        list.choose(text);
+    });
+}
+
+void Program::chooseTab(Tabs& tabs, int index) {
+    act([&] {
+        tabs.window().setFocus(tabs);
+        tabs.choose(index);
+    });
+}
+
+void Program::key(Control& control, Key key) {
+    if (!control.enabled)
+        return;
+    if (control.kind() == ControlKind::button || control.kind() == ControlKind::option) {
+        if (key.kind == Key::Kind::enter || key.character == U' ') {
+            click(control);
+        } else {
+            focus(control);
+        }
+        return;
+    }
+    act([&] {
+        if (auto* grid = dynamic_cast<MSFlexGrid*>(&control)) {
+            if (grid->editor && grid->editor->visible) {
+                keyOnText(*grid->editor, key);
+            } else {
+                control.window().setFocus(control);
+                keyOnGrid(*grid, key);
+            }
+        } else if (auto* box = dynamic_cast<TextBox*>(&control)) {
+            keyOnText(*box, key);
+        } else if (auto* list = dynamic_cast<List*>(&control)) {
+            control.window().setFocus(control);
+            if (key.kind == Key::Kind::enter && list->onEnter) {
+                list->onEnter();
+            } else if (key.kind == Key::Kind::character) {
+                list->type(key.character);
+            }
+        } else {
+            control.window().setFocus(control);
+        }
+    });
+}
+
+void Program::keyOnText(TextBox& box, Key key) {
+    box.window().setFocus(box);
+    if (box.onKey && box.onKey(key))
+        return;
+    if (key.kind == Key::Kind::character) {
+        box.type(key.character);
+    } else if (key.kind == Key::Kind::enter && box.onEnter) {
+        box.onEnter();
+    }
+}
+
+void Program::keyOnGrid(MSFlexGrid& grid, Key key) {
+    switch (key.kind) {
+    case Key::Kind::up:
+        if (grid.canSelect(grid.Row() - 1, grid.Col()))
+            grid.setRow(grid.Row() - 1);
+        break;
+    case Key::Kind::down:
+        if (grid.canSelect(grid.Row() + 1, grid.Col()))
+            grid.setRow(grid.Row() + 1);
+        break;
+    case Key::Kind::enter:
+        if (grid.onEnter)
+            grid.onEnter();
+        break;
+    default:
+        if (grid.onKeyPress)
+            grid.onKeyPress(key.code());
+    }
+}
+
+void Program::selectCell(MSFlexGrid& grid, long row, long col) {
+    act([&] {
+        grid.window().setFocus(grid);
+        grid.selectCell(row, col);
+    });
+}
+
+void Program::rightClick(MSFlexGrid& grid) {
+    act([&] {
+        grid.window().setFocus(grid);
+        if (grid.onRightClick)
+            grid.onRightClick();
+    });
+}
+
+void Program::scroll(MSFlexGrid& grid, long topRow) {
+    act([&] { grid.setTopRow(topRow); });
+}
+
+void Program::focus(Control& control) {
+    act([&] { control.window().setFocus(control); });
+}
+
+void Program::leave(Control& control) {
+    act([&] {
+        if (control.window().focus() == &control)
+            control.window().setFocus(nullptr);
+    });
+}
+
+void Program::close(Window& window) {
+    act([&] { unload(window); });
+}
+
+Window* Program::show(std::string_view name) {
+    Window* window = find(name);
+    if (!window) {
+        const WindowEntry* entry = entryOf(name);
+        if (!entry)
+            return nullptr;
+        windows_.push_back(entry->create(*this));
+        window = windows_.back().get();
+        window->load();
+    }
+    window->visible = true;
+    window->shown = ++showCount_;
+    front_ = window;
+    return window;
+}
+
+void Program::unload(Window& window) {
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [&](const auto& each) { return each.get() == &window; });
+    if (found == windows_.end())
+        return;
+    window.unload();
+    window.visible = false;
+    if (front_ == &window)
+        front_ = nullptr;
+    unloaded_.push_back(std::move(*found));
+    windows_.erase(found);
+}
+
+void Program::end() {
+    ended_ = Ending{};
+}
+
+} // namespace caudalera

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "shell/numbers/Real.h"
+#include "shell/numbers/RuntimeFailure.h"
+#include "shell/window/Control.h"
+#include "shell/window/Graph.h"
+#include "shell/window/Layout.h"
+#include "shell/window/MSFlexGrid.h"
+#include "shell/window/Platform.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace caudalera {
+
+class Program;
+
+/// A window as data: its controls, which of them has the focus, how they stand. Handlers of its
+/// events are set when it is built; Program runs them.
+class Window {
+public:
+    Window(Program& program, std::string name, std::string caption);
+    virtual ~Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    const std::string& name() const { return name_; }
+    Program& program() const { return program_; }
+    /// In the order of the form.
+    const std::vector<Control*>& controls() const { return controls_; }
+    /// nullptr if there is none of that name.
+    Control* find(std::string_view name) const;
+
+    std::string caption;
+    bool visible = false;
+    /// Grows each time the window is shown, so that a view brings it to the front.
+    std::uint64_t shown = 0;
+
+    Layout layout;
+    /// Groups of commands, each with its frame or none, as every window shows them.
+    struct CommandGroup {
+        Frame* frame = nullptr;
+        std::vector<Button*> buttons;
+    };
+    std::vector<CommandGroup> commands;
+    /// Titles of the menu bar.
+    std::vector<MenuEntry*> menuBar;
+    /// The command that the view sets off from the others; nullptr if none.
+    Button* mainAction = nullptr;
+
+    Control* focus() const { return focus_; }
+    /// The control that had the focus is left, this one gets it; nullptr leaves it with none.
+    void setFocus(Control* control);
+    void setFocus(Control& control) { setFocus(&control); }
+
+    virtual void load() {}
+    virtual void unload() {}
+
+protected:
+    Platform& platform() const;
+    void mensaje(std::string text, std::string title = {}, Icon icon = Icon::none) const;
+    /// Number formatter with the locale's separator.
+    std::string formatear(Real value, std::string_view mascara) const;
+    std::string formatear(float value, std::string_view mascara) const;
+
+private:
+    friend class Control;
+    void add(Control& control) { controls_.push_back(&control); }
+
+    Program& program_;
+    std::string name_;
+    std::vector<Control*> controls_;
+    Control* focus_ = nullptr;
+};
+
+/// Runs the steps of a command under its trap: a run-time failure ends them where they stand and
+/// goes to `siFalla`. Without a trap a failure is fatal.
+template <typename Steps, typename Handler>
+void conTrampa(Steps&& pasos, Handler&& siFalla) {
+    try {
+        std::forward<Steps>(pasos)();
+    } catch (const RuntimeFailure& failure) {
+        std::forward<Handler>(siFalla)(failure);
+    }
+}
+
+} // namespace caudalera

@@ -1,0 +1,208 @@
+#include "shell/worksheet/Worksheet.h"
+
+#include "shell/text/MonthData.h"
+#include "shell/text/Text.h"
+#include "shell/window/Program.h"
+
+namespace caudalera {
+
+namespace {
+
+constexpr const char* mascaraCelda = "#0.0#######";
+constexpr const char* mascaraAlta = "0.0#######";
+
+} // namespace
+
+Worksheet::Worksheet(Program& program, std::string name, std::string text, std::string rowHeader,
+                     RowLabels labels)
+    : CalculationWindow(program, std::move(name), std::move(text)),
+      layout_(seriesLayout(this->name())), rowHeader_(std::move(rowHeader)), labels_(labels),
+      cdCrear_(FileDialog::Kind::save, "Ubicar directorio y escribir el nombre archivo a crear",
+               std::string(layout_.saveFilter)),
+      cdAccesar_(FileDialog::Kind::open, "Seleccionar el archivo a cargar",
+                 std::string(layout_.openFilter)) {
+    mnuEdicion.entries = {&mnuEditInsertar, nullptr, &mnuEditEliminar};
+    txtt.visible = false;
+    grdt.editor = &txtt;
+    grdt.popup = &mnuEdicion;
+    grdt.columnWidths.assign(layout_.fields.size() + 1, 1800);
+    grdt.columnWidths.front() = 700;
+
+    grdt.onKeyPress = [this](char32_t codigo) { empezarEdicion(codigo); };
+    grdt.onEnter = [this] {
+        avanzar();
+        grdt.setTopRow(grdt.Row());
+    };
+    grdt.onGotFocus = [this] {
+        if (!txtt.visible)
+            return;
+        grdt.setTextMatrix(grdt.Row(), grdt.Col(), txtt.text());
+        txtt.visible = false;
+    };
+    grdt.onLeaveCell = grdt.onScroll = [this] { ocultarTxtt(); };
+    grdt.onRowColChange = [this] { cambioDeFila(); };
+    grdt.onRightClick = [this] { botonDerecho(); };
+    txtt.onKey = [this](Key key) { return teclaEnTxtt(key); };
+    txtt.onGotFocus = [this] {
+        StatusBar1.panels[0] =
+            "Para introducir o modificar datos, digitarlos y luego presionar ENTER";
+    };
+    txtt.onLostFocus = [this] { StatusBar1.panels[0].clear(); };
+    mnuEditInsertar.onClick = [this] {
+        tomarFila();
+        insertarFila();
+    };
+    mnuEditEliminar.onClick = [this] {
+        tomarFila();
+        eliminarFila();
+    };
+    mandatoDeArchivo(bCrear);
+    mandatoDeArchivo(bAccesar);
+    bCrear.onClick = [this] { crear(); };
+    bAccesar.onClick = [this] { accesar(); };
+}
+
+void Worksheet::load() {
+    reiniciarCuadricula();
+    reiniciarResultados();
+    setFocus(grdt);
+}
+
+void Worksheet::ocultarTxtt() {
+    txtt.visible = false;
+    if (focus() == &txtt)
+        setFocus(grdt);
+}
+
+void Worksheet::reiniciarCuadricula() {
+    ocultarTxtt();
+    grdt.reset(2, static_cast<long>(layout_.fields.size()) + 1, 1, 1);
+    grdt.setTextMatrix(0, 0, rowHeader_);
+    for (std::size_t i = 0; i < layout_.fields.size(); ++i)
+        grdt.setTextMatrix(0, static_cast<long>(i) + 1, std::string(layout_.fields[i]));
+    grdt.setTextMatrix(1, 0, marcadorOtro);
+}
+
+std::string Worksheet::etiquetaFila(long fila) const {
+    if (labels_ == RowLabels::months)
+        return std::string(mesDeFila(fila));
+    return Str(fila);
+}
+
+Real Worksheet::valorCelda(long fila, long columna) const {
+    return Val(grdt.TextMatrix(fila, columna));
+}
+
+void Worksheet::numerarFilas(const char* marcador) {
+    for (long fila = 1; fila < filaDeAlta(); ++fila)
+        grdt.setTextMatrix(fila, 0, etiquetaFila(fila));
+    grdt.setTextMatrix(filaDeAlta(), 0, marcador);
+}
+
+void Worksheet::vaciarDatos(long fila) {
+    for (long col = 1; col < grdt.Cols(); ++col)
+        grdt.setTextMatrix(fila, col, {});
+}
+
+void Worksheet::empezarEdicion(char32_t codigo) {
+    txtt.visible = true;
+    if (codigo <= 32) {
+        txtt.enterText(formatear(valorCelda(grdt.Row(), grdt.Col()), mascaraCelda));
+        txtt.selStart = 0;
+        txtt.selLength = longitud(txtt.text());
+    } else {
+        txtt.enterText({});
+        txtt.type(codigo);
+    }
+    setFocus(txtt);
+}
+
+bool Worksheet::teclaEnTxtt(Key key) {
+    switch (key.kind) {
+    case Key::Kind::escape:
+        txtt.visible = false;
+        setFocus(grdt);
+        return true;
+    case Key::Kind::down:
+        setFocus(grdt);
+        if (grdt.Row() < filaDeAlta())
+            grdt.setRow(grdt.Row() + 1);
+        return true;
+    case Key::Kind::up:
+        setFocus(grdt);
+        if (grdt.Row() > 1)
+            grdt.setRow(grdt.Row() - 1);
+        return true;
+    case Key::Kind::enter:
+        txtt.enterText(formatear(Real(Val(txtt.text())), mascaraCelda));
+        setFocus(grdt);
+        avanzar();
+        return true;
+    case Key::Kind::character:
+        return false;
+    }
+    return false;
+}
+
+void Worksheet::avanzar() {
+    if (grdt.Row() != filaDeAlta()) {
+        grdt.setRow(grdt.Row() + 1);
+        return;
+    }
+    if (grdt.Col() < grdt.Cols() - 1) {
+        grdt.setCol(grdt.Col() + 1);
+        return;
+    }
+    const long fila = grdt.Row();
+    for (long col = 1; col < grdt.Cols(); ++col)
+        grdt.setTextMatrix(fila, col, formatear(valorCelda(fila, col), mascaraAlta));
+    grdt.setRows(grdt.Rows() + 1);
+    grdt.setCol(1);
+    grdt.setRow(filaDeAlta());
+    numerarFilas(marcadorActual);
+}
+
+void Worksheet::cambioDeFila() {
+    const long alta = filaDeAlta();
+    if (grdt.Row() == alta) {
+        grdt.setTextMatrix(alta, 0, marcadorActual);
+        return;
+    }
+    mnuEditInsertar.enabled = true;
+    grdt.setTextMatrix(alta, 0, marcadorOtro);
+    vaciarDatos(alta);
+}
+
+void Worksheet::botonDerecho() {
+    mnuEditInsertar.enabled = grdt.Row() != filaDeAlta();
+    grdt.setCol(1);
+    grdt.setSelectionEnd(grdt.Row(), grdt.Cols() - 1);
+}
+
+void Worksheet::tomarFila() {
+    setFocus(grdt);
+    grdt.setCol(1);
+}
+
+void Worksheet::insertarFila() {
+    if (grdt.Row() == filaDeAlta())
+        return;
+    grdt.setRows(grdt.Rows() + 1);
+    for (long fila = grdt.Rows() - 1; fila > grdt.Row(); --fila) {
+        for (long col = 1; col < grdt.Cols(); ++col)
+            grdt.setTextMatrix(fila, col, grdt.TextMatrix(fila - 1, col));
+    }
+    vaciarDatos(grdt.Row());
+    numerarFilas(marcadorOtro);
+}
+
+void Worksheet::eliminarFila() {
+    if (grdt.Row() != filaDeAlta() && grdt.Rows() >= 3) {
+        grdt.RemoveItem(grdt.Row());
+        numerarFilas(marcadorOtro);
+    } else {
+        reiniciarCuadricula();
+    }
+}
+
+} // namespace caudalera

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "shell/numbers/Integer16.h"
+#include "shell/worksheet/CalculationWindow.h"
+#include "shell/worksheet/CommonDialog.h"
+#include "shell/worksheet/SeriesLayouts.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace caudalera {
+
+/// The template of the calculation windows with a data grid: `grdt` and the box `txtt` that floats
+/// over the cell being edited, inserting and deleting rows, the file commands. The last row of the
+/// grid is always the append row, which is not data. A window supplies its grid reset (headers),
+/// its result reset, the reading of its grid and the elements of its arrays for the file.
+class Worksheet : public CalculationWindow {
+public:
+    /// What the fixed column shows beside data.
+    enum class RowLabels { numbers, months };
+
+    Worksheet(Program& program, std::string name, std::string caption, std::string rowHeader,
+              RowLabels labels = RowLabels::numbers);
+
+    MSFlexGrid grdt{*this, "grdt"};
+    TextBox txtt{*this, "txtt"};
+    MenuEntry mnuEdicion{*this, "mnuEdicion", "Edición"};
+    MenuEntry mnuEditInsertar{*this, "mnuEditInsertar", "Insertar Fila"};
+    MenuEntry mnuEditEliminar{*this, "mnuEditEliminar", "Eliminar Fila"};
+    Button bCrear{*this, "bCrear", "&Crear", "Crear archivo"};
+    Button bAccesar{*this, "bAccesar", "&Accesar", "Cargar archivo"};
+    StatusBar StatusBar1{*this, "StatusBar1", 1};
+
+    void load() override;
+
+protected:
+    /// Rows of data after the last reading of the grid; holds no reliable value between commands.
+    Integer16 n;
+
+    long filaDeAlta() const { return grdt.Rows() - 1; }
+
+    /// Builds `grdt` empty: header and append row, marked "[?]".
+    void reiniciarCuadricula();
+    /// Builds each result grid empty with its headers.
+    virtual void reiniciarResultados() = 0;
+    /// Sets `n` and fills the arrays with the numeric reading of the cells.
+    virtual void leerCuadricula() = 0;
+    /// Element `i` of the array of a data column (from 1), as the file stores it.
+    virtual Real elementoSerie(long columna, long i) const = 0;
+    /// Text of the fixed cell of a data row.
+    virtual std::string etiquetaFila(long fila) const;
+    /// What a load resets before the dialog opens, and what once the file is in the grid.
+    virtual void antesDeAccesar() { reiniciarResultados(); }
+    virtual void trasAccesar() {}
+    /// The record behind those of the rows, in the layouts that have one.
+    virtual std::vector<Real> ultimoRegistro() const { return {}; }
+    virtual void recibirUltimoRegistro(std::span<const float> /*registro*/) {}
+
+    long filasDelReporte() const override { return grdt.Rows() - 2; }
+    /// Rows of data, read from the grid as a 16-bit count.
+    Integer16 contarFilas() const { return grdt.Rows() - 2; }
+    /// Numeric reading of a cell of `grdt`.
+    Real valorCelda(long fila, long columna) const;
+
+private:
+    /// Fixed cell of the append row while it is the current one, and otherwise.
+    static constexpr const char* marcadorActual = "[->]";
+    static constexpr const char* marcadorOtro = "[?]";
+
+    void numerarFilas(const char* marcador);
+    void avanzar();
+    void cambioDeFila();
+    void empezarEdicion(char32_t codigo);
+    /// Without storing what was typed.
+    void ocultarTxtt();
+    bool teclaEnTxtt(Key key);
+    void botonDerecho();
+    /// What the right button that opens the pop-up has done already; its entries stand alone too.
+    void tomarFila();
+    void insertarFila();
+    void eliminarFila();
+    void crear();
+    void accesar();
+    void cargar();
+    void cargarRegistros(class SeriesFile& archivo);
+    void vaciarDatos(long fila);
+
+    const SeriesLayout& layout_;
+    std::string rowHeader_;
+    RowLabels labels_;
+    CommonDialog cdCrear_;
+    CommonDialog cdAccesar_;
+};
+
+} // namespace caudalera

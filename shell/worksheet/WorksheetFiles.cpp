@@ -1,0 +1,96 @@
+#include "shell/files/SeriesFile.h"
+#include "shell/window/Program.h"
+#include "shell/worksheet/Worksheet.h"
+
+namespace caudalera {
+
+namespace {
+
+std::vector<float> enSimple(const std::vector<Real>& valores) {
+    std::vector<float> registro;
+    registro.reserve(valores.size());
+    for (const Real valor : valores)
+        registro.push_back(toSingle(valor));
+    return registro;
+}
+
+} // namespace
+
+void Worksheet::crear() {
+    Variables& variables = program().variables;
+    conTrampa(
+        [&] {
+            variables.nombreArchivo = cdCrear_.show(platform());
+            leerCuadricula();
+            const auto columnas = static_cast<long>(layout_.fields.size());
+            SeriesFile archivo(variables, variables.nombreArchivo, static_cast<int>(columnas),
+                               SeriesFile::Access::replace);
+            std::vector<Real> registro(layout_.fields.size());
+            for (long i = 1; i <= n; ++i) {
+                for (long col = 1; col <= columnas; ++col)
+                    registro[static_cast<std::size_t>(col - 1)] = elementoSerie(col, i);
+                archivo.write(enSimple(registro));
+            }
+            if (layout_.lastRecord)
+                archivo.write(enSimple(ultimoRegistro()));
+            archivo.close();
+        },
+        [&](const RuntimeFailure& failure) {
+            // Rows past the capacity of the arrays end the program in spite of the trap.
+            if (failure.failure() == Failure::index)
+                throw failure;
+            if (failure.failure() == Failure::dialogCancelled)
+                mensaje("Error desconocido al salvar el archivo " + variables.nombreArchivo);
+        });
+}
+
+void Worksheet::accesar() {
+    antesDeAccesar();
+    Variables& variables = program().variables;
+    conTrampa(
+        [&] {
+            variables.nombreArchivo = cdAccesar_.show(platform());
+            cargar();
+            trasAccesar();
+        },
+        [&](const RuntimeFailure& failure) {
+            if (failure.failure() == Failure::dialogCancelled)
+                mensaje("Error desconocido al abrir el archivo " + variables.nombreArchivo);
+        });
+}
+
+void Worksheet::cargar() {
+    Variables& variables = program().variables;
+    reiniciarCuadricula();
+    n = 0;
+    SeriesFile archivo(variables, variables.nombreArchivo, static_cast<int>(layout_.fields.size()),
+                       SeriesFile::Access::read);
+    variables.numRegistros = archivo.records();
+    cargarRegistros(archivo);
+    archivo.close();
+    grdt.setTextMatrix(filaDeAlta(), 0, marcadorActual);
+    grdt.setCol(1);
+    grdt.setRow(filaDeAlta());
+    n = contarFilas();
+}
+
+void Worksheet::cargarRegistros(SeriesFile& archivo) {
+    const long datos = program().variables.numRegistros - (layout_.lastRecord ? 1L : 0L);
+    // A grid has its fixed row and one more at least.
+    if (datos < 0)
+        throw RuntimeFailure(Failure::index);
+    grdt.setRows(datos + 2);
+    for (long i = 1; i <= datos; ++i) {
+        const auto registro = archivo.read();
+        grdt.setTextMatrix(i, 0, etiquetaFila(i));
+        for (std::size_t campo = 0; campo < registro.size(); ++campo) {
+            const Real valor = Real::checked(registro[campo]);
+            grdt.setTextMatrix(i, static_cast<long>(campo) + 1,
+                               formatear(static_cast<float>(valor.value()), layout_.mask));
+        }
+    }
+    if (layout_.lastRecord)
+        recibirUltimoRegistro(archivo.read());
+}
+
+} // namespace caudalera

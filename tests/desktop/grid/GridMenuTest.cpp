@@ -1,0 +1,192 @@
+#include "desktop/grid/GridView.h"
+#include "tests/desktop/DesktopFixture.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+namespace caudalera {
+
+namespace {
+
+constexpr QMessageBox::Icon information = QMessageBox::Information;
+
+} // namespace
+
+class GridMenuTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        desktop_ = std::make_unique<DesktopFixture>();
+        desktop_->open("frmEjRegSimple");
+    }
+    void cleanup() {
+        const QString boxes = desktop_->unexpectedBoxes();
+        desktop_.reset();
+        QVERIFY2(boxes.isEmpty(), qPrintable(boxes));
+    }
+
+    void theMenuHasTheWindowsEntriesAlone() {
+        QMenu* menu = openMenu();
+        QStringList words;
+        for (const QAction* action : menu->actions())
+            words.append(action->isSeparator() ? QStringLiteral("-")
+                                               : action->text().section(u'\t', 0, 0));
+        QCOMPARE(words, QStringList({"Insertar Fila", "-", "Eliminar Fila"}));
+    }
+
+    void insertingIsDisabledOnTheAppendRowAlone() {
+        desktop_->typeValues({"1", "2"});
+        QVERIFY(!entry("mnuEditInsertar")->isEnabled());
+        desktop_->clickCell(1, 1);
+        QVERIFY(entry("mnuEditInsertar")->isEnabled());
+    }
+
+    void rowsAreInsertedAndDeletedAtTheCurrentRow() {
+        desktop_->typeValues({"1", "2", "3", "4"});
+        desktop_->clickCell(2, 1);
+        choose("mnuEditInsertar");
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2||"));
+        QCOMPARE(desktop_->row(3), QStringLiteral(" 3|3.0|4.0"));
+        choose("mnuEditEliminar");
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|3.0|4.0"));
+        QCOMPARE(desktop_->gridView().model()->rowCount(), 3);
+    }
+
+    void deletingOnTheAppendRowEmptiesTheGrid() {
+        desktop_->typeValues({"1", "2", "3", "4"});
+        choose("mnuEditEliminar");
+        QCOMPARE(desktop_->grid().Rows(), 2L);
+        QCOMPARE(desktop_->gridView().model()->rowCount(), 1);
+    }
+
+    void aRightClickSelectsTheWholeRow() {
+        desktop_->typeValues({"1", "2"});
+        desktop_->clickCell(1, 2);
+        openMenu();
+        QCOMPARE(desktop_->gridView().selectedText(), QStringLiteral("1.0\t2.0"));
+    }
+
+    void aBlockIsEnteredAsTypingWould() {
+        paste("1.5\t2\r\n3\t4.25\r\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|2.0"));
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|3.0|4.25"));
+        QCOMPARE(desktop_->row(3), QStringLiteral("[->]||"));
+    }
+
+    void aBlockWithDecimalCommasIsEnteredWithPoints() {
+        paste("1,5\t1.234,5\n-0,25\t12");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|1234.5"));
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|-0.25|12.0"));
+    }
+
+    void aBlockWithAWordIsRefusedWhole() {
+        desktop_->expectBox({"No se pegó nada: el dato de la fila 3, columna 2 no es un número: "
+                             "«abc»",
+                             "Caudalera", information});
+        paste("1\t2\n3\t4\n5\tabc\n");
+        QCOMPARE(desktop_->grid().Rows(), 2L);
+        QCOMPARE(desktop_->row(1), QStringLiteral("[?]||"));
+    }
+
+    void aBlockThatIsTooWideIsRefused() {
+        desktop_->expectBox({"No se pegó nada: el bloque tiene 3 columnas y desde la celda actual "
+                             "caben 2",
+                             "Caudalera", information});
+        paste("1\t2\t3\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral("[?]||"));
+    }
+
+    void aBlockThatIsTooWideForTheLastColumnIsRefused() {
+        desktop_->clickCell(1, 2);
+        desktop_->expectBox({"No se pegó nada: el bloque tiene 2 columnas y desde la celda actual "
+                             "cabe 1",
+                             "Caudalera", information});
+        paste("1\t2\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral("[->]||"));
+    }
+
+    void aBlockOverDataReplacesItDownward() {
+        desktop_->typeValues({"1", "2", "3", "4", "5", "6"});
+        desktop_->clickCell(1, 2);
+        paste("20\n40\n60\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.0|20.0"));
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|3.0|40.0"));
+        QCOMPARE(desktop_->row(3), QStringLiteral(" 3|5.0|60.0"));
+        QCOMPARE(desktop_->grid().Rows(), 5L);
+    }
+
+    void aColumnThatWouldLeaveNewRowsIncompleteIsRefused() {
+        desktop_->typeValues({"1", "2"});
+        desktop_->expectBox({"No se pegó nada: cada fila nueva lleva 2 datos y las del bloque "
+                             "tienen 1",
+                             "Caudalera", information});
+        paste("7\n8\n");
+        QCOMPARE(desktop_->row(2), QStringLiteral("[->]||"));
+    }
+
+    void aBlockPastedIntoTheOpenBoxGoesToTheGrid() {
+        desktop_->type("9");
+        paste("1\t2\n3\t4\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.0|2.0"));
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|3.0|4.0"));
+    }
+
+    void aSingleValuePastedIntoTheOpenBoxStaysThere() {
+        desktop_->type("9");
+        paste("5");
+        QCOMPARE(QString::fromStdString(desktop_->control<TextBox>("txtt").text()),
+                 QStringLiteral("95"));
+    }
+
+    void resultsAreCopiedButNotPastedInto() {
+        desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
+        desktop_->clickButton("bCalcular");
+        auto& results = desktop_->widget<GridView>("grdecua");
+        results.setFocus();
+        const std::string before = desktop_->control<MSFlexGrid>("grdecua").TextMatrix(1, 0);
+        desktop_->press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromStdString(before));
+        QGuiApplication::clipboard()->setText("5");
+        desktop_->press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(QString::fromStdString(desktop_->control<MSFlexGrid>("grdecua").TextMatrix(1, 0)),
+                 QString::fromStdString(before));
+    }
+
+private:
+    QMenu* openMenu() {
+        const QPoint point = desktop_->centerOf(1, 1);
+        QWidget* viewport = desktop_->gridView().viewport();
+        QTest::mouseClick(viewport, Qt::RightButton, {}, point);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, point, viewport->mapToGlobal(point));
+        QApplication::sendEvent(viewport, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            throw std::logic_error("no menu");
+        return menu;
+    }
+    QAction* entry(const char* name) {
+        QMenu* menu = openMenu();
+        auto* action = menu->findChild<QAction*>(QString::fromUtf8(name));
+        menu->close();
+        return action;
+    }
+    void choose(const char* name) {
+        QMenu* menu = openMenu();
+        auto* action = menu->findChild<QAction*>(QString::fromUtf8(name));
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    }
+    void paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        desktop_->press(Qt::Key_V, Qt::ControlModifier);
+    }
+
+    std::unique_ptr<DesktopFixture> desktop_;
+};
+
+} // namespace caudalera
+
+using caudalera::GridMenuTest;
+QTEST_MAIN(GridMenuTest)
+#include "GridMenuTest.moc"

@@ -1,0 +1,237 @@
+#include "desktop/richtext/RichTextBridge.h"
+#include "tests/desktop/report/ReportFixture.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTextBlock>
+
+using namespace caudalera;
+
+class DocumentViewTest : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<ReportFixture> on;
+
+    /// Model and document hold the same, formats included.
+    void verifyInLine() {
+        QVERIFY(richtext::paragraphsOf(*on->view()->document()) == on->text().paragraphs());
+    }
+    void type(const QString& keys) {
+        for (const QChar key : keys)
+            QTest::sendKeyEvent(QTest::Click, on->view(), Qt::Key(key.toUpper().unicode()), key,
+                                {});
+    }
+    void key(Qt::Key which, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(on->view(), which, modifiers);
+    }
+
+private slots:
+    void initTestCase() { style::apply(*qApp); }
+    void init() {
+        on = std::make_unique<ReportFixture>();
+        QVERIFY(on->open());
+    }
+    void cleanup() { on.reset(); }
+
+    void aReportThatTheModelComposesAppears() {
+        on->compose("Ajuste de una serie de datos a la distribución normal", 3);
+        QCOMPARE(on->view()->toPlainText(), on->plainText());
+        QVERIFY(on->plainText().startsWith("Resultados\n\nAjuste de una serie"));
+        const QTextDocument& document = *on->view()->document();
+        QCOMPARE(document.begin().blockFormat().alignment(), Qt::AlignHCenter);
+        QCOMPARE(document.lastBlock().blockFormat().alignment(), Qt::AlignLeft);
+        // 200 twips are 200/1440 of an inch.
+        QCOMPARE(document.begin().blockFormat().leftMargin(),
+                 200.0 / 1440 * on->view()->logicalDpiX());
+        verifyInLine();
+    }
+
+    void itIsReadFromItsBeginning() {
+        on->compose("Largo", 499);
+        QCOMPARE(on->view()->verticalScrollBar()->value(), 0);
+        QVERIFY(on->view()->verticalScrollBar()->maximum() > 0);
+        // The caret stands behind it all the same.
+        QVERIFY(on->view()->textCursor().atEnd());
+    }
+
+    void typingGoesToTheModel() {
+        type("Hola mundo");
+        QCOMPARE(on->plainText(), QStringLiteral("Hola mundo"));
+        QCOMPARE(on->text().selStart(), std::size_t{10});
+        key(Qt::Key_Backspace);
+        key(Qt::Key_Return);
+        type("otra");
+        QCOMPARE(on->plainText(), QStringLiteral("Hola mund\notra"));
+        key(Qt::Key_Home);
+        key(Qt::Key_Backspace);
+        QCOMPARE(on->plainText(), QStringLiteral("Hola mundotra"));
+        QCOMPARE(on->text().selStart(), std::size_t{9});
+        verifyInLine();
+    }
+
+    void typingInsideAReportKeepsItsFormats() {
+        on->compose("Título", 3);
+        key(Qt::Key_Home, Qt::ControlModifier);
+        key(Qt::Key_End);
+        type("!");
+        key(Qt::Key_Return);
+        type("más");
+        verifyInLine();
+        QVERIFY(on->plainText().startsWith("Resultados!\nmás\n"));
+        QVERIFY(on->text().paragraphs()[1].format.alignment == Alignment::center);
+        QCOMPARE(on->text().paragraphs()[1].format.indent, 200);
+        // From the centred title into the table: both paragraphs become one.
+        for (int i = 0; i < 7; ++i)
+            key(Qt::Key_Down, Qt::ShiftModifier);
+        key(Qt::Key_Delete);
+        verifyInLine();
+        QCOMPARE(on->view()->toPlainText(), on->plainText());
+    }
+
+    void charactersBehindFormattedOnesTakeTheirFormat() {
+        on->session->act([this] {
+            on->text().assign(
+                {{{{"negrita", {true, false, false, "", 0, -1}}, {" llana", {}}}, {}}});
+        });
+        QTest::keyClick(on->view(), Qt::Key_Home);
+        for (int i = 0; i < 7; ++i)
+            key(Qt::Key_Right);
+        type("s");
+        QCOMPARE(QString::fromStdString(on->text().paragraphs()[0].runs[0].text),
+                 QStringLiteral("negritas"));
+        verifyInLine();
+    }
+
+    void undoAndRedoReachTheModel() {
+        on->compose("Título", 2);
+        const QString before = on->plainText();
+        type("abc");
+        QTest::keyClick(on->view(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(on->plainText(), before);
+        verifyInLine();
+        on->view()->redo();
+        QCOMPARE(on->plainText(), before + "abc");
+        verifyInLine();
+    }
+
+    void charactersPastTheFirstPlaneCountOnce() {
+        QInputMethodEvent event;
+        event.setCommitString(QStringLiteral("a\U0001F4A7b"));
+        QApplication::sendEvent(on->view(), &event);
+        QCOMPARE(on->plainText(), QStringLiteral("a\U0001F4A7b"));
+        QCOMPARE(on->text().selStart(), std::size_t{3});
+        type("c");
+        key(Qt::Key_Left, Qt::ShiftModifier);
+        key(Qt::Key_Left, Qt::ShiftModifier);
+        QCOMPARE(on->text().selStart(), std::size_t{2});
+        QCOMPARE(on->text().selLength(), std::size_t{2});
+        verifyInLine();
+        // And back: the model selects the drop, two units of Qt's.
+        on->session->act([this] { on->text().select(1, 1); });
+        QCOMPARE(on->view()->textCursor().selectedText(), QStringLiteral("\U0001F4A7"));
+    }
+
+    void theSelectionGoesBothWays() {
+        type("uno dos");
+        key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+        QCOMPARE(on->text().selStart(), std::size_t{4});
+        QCOMPARE(on->text().selLength(), std::size_t{3});
+        on->session->act([this] { on->text().select(0, 3); });
+        QCOMPARE(on->view()->textCursor().selectedText(), QStringLiteral("uno"));
+    }
+
+    void aLineSeparatorIsAParagraphHere() {
+        type("a");
+        key(Qt::Key_Return, Qt::ShiftModifier);
+        type("b");
+        QCOMPARE(on->plainText(), QStringLiteral("a\nb"));
+        verifyInLine();
+    }
+
+    void copyPutsRichTextIntoTheClipboard() {
+        on->compose("Título", 1);
+        key(Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(on->view(), Qt::Key_C, Qt::ControlModifier);
+        const std::string copied = QGuiApplication::clipboard()->text().toStdString();
+        QVERIFY(copied.starts_with("{\\rtf1"));
+        QCOMPARE(QString::fromStdString(readRtf(copied).text()), on->plainText());
+        QVERIFY(readRtf(copied).paragraphs()[0].format.alignment == Alignment::center);
+    }
+
+    void cutAndPasteAreTheModels() {
+        type("uno dos");
+        key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
+        key(Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(on->plainText(), QStringLiteral("uno "));
+        QCOMPARE(on->view()->toPlainText(), QStringLiteral("uno "));
+        key(Qt::Key_V, Qt::ControlModifier);
+        key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(on->view()->toPlainText(), QStringLiteral("uno dosdos"));
+        QCOMPARE(on->view()->textCursor().position(), 10);
+        QGuiApplication::clipboard()->setText(QStringLiteral("llano"));
+        key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(on->plainText(), QStringLiteral("uno dosdosllano"));
+        verifyInLine();
+    }
+
+    void theContextMenuIsTheEditMenu() {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5},
+                                on->view()->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(on->view()->viewport(), &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QStringList entries;
+        for (const QAction* action : menu->actions())
+            entries.append(action->text());
+        menu->close();
+        QCOMPARE(entries, (QStringList{"Cor&tar", "&Copiar", "&Pegar"}));
+    }
+
+    void aSecondReportStandsAtTheCaret() {
+        on->compose("Primero", 1);
+        key(Qt::Key_Home, Qt::ControlModifier);
+        on->compose("Segundo", 1);
+        const QString both = on->view()->toPlainText();
+        QCOMPARE(both, on->plainText());
+        QVERIFY(both.indexOf("Segundo") < both.indexOf("Primero"));
+        QCOMPARE(both.count("Resultados"), 2);
+    }
+
+    void aReportOfManyRowsShowsAtOnce() {
+        QElapsedTimer clock;
+        clock.start();
+        on->compose("Largo", 499);
+        on->view()->grab();
+        QVERIFY2(clock.elapsed() < 1500, qPrintable(QString::number(clock.elapsed())));
+    }
+
+    void typingInAVeryLongReportStaysFluid() {
+        on->session->act([this] {
+            std::vector<Paragraph> paragraphs(30000);
+            for (std::size_t i = 0; i < paragraphs.size(); ++i)
+                paragraphs[i].runs = {{std::to_string(i) + "\t122.0\t0.0143\t-1.4454", {}}};
+            on->text().assign(std::move(paragraphs));
+        });
+        QTextCursor middle(on->view()->document()->findBlockByNumber(15000));
+        on->view()->setTextCursor(middle);
+        // The toolkit lays a document out while it is idle; the first key is not to wait for that.
+        static_cast<void>(on->view()->document()->documentLayout()->documentSize());
+        QElapsedTimer clock;
+        clock.start();
+        for (int i = 0; i < 50; ++i)
+            QTest::keyClick(on->view(), i % 10 == 9 ? Qt::Key_Return : Qt::Key_A);
+        // A key each 40 ms is faster than anyone types.
+        qInfo("50 keys in %lld ms", static_cast<long long>(clock.elapsed()));
+        QVERIFY2(clock.elapsed() < 50 * 40, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(on->text().paragraphs().size(), std::size_t{30005});
+        verifyInLine();
+    }
+};
+
+QTEST_MAIN(DocumentViewTest)
+#include "DocumentViewTest.moc"

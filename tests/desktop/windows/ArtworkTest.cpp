@@ -1,0 +1,86 @@
+#include "desktop/style/Style.h"
+
+#include <QDirIterator>
+#include <QImage>
+#include <QPainter>
+#include <QSet>
+#include <QSvgRenderer>
+#include <QTest>
+
+using namespace caudalera;
+
+namespace {
+
+/// Colours that a drawing leaves on a ground of a colour that none of them uses.
+int coloursOf(QSvgRenderer& renderer, const QSize& size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(qRgb(255, 0, 255));
+    QPainter painter(&image);
+    renderer.render(&painter);
+    painter.end();
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            colours.insert(image.pixel(x, y));
+    return static_cast<int>(colours.size());
+}
+
+} // namespace
+
+class ArtworkTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { style::apply(*qApp); }
+
+    void everyDrawingLoadsAndDraws_data() {
+        QTest::addColumn<QString>("path");
+        for (const char* folder : {":/icons", ":/drawings"}) {
+            QDirIterator files{QLatin1String(folder), {QStringLiteral("*.svg")}};
+            while (files.hasNext()) {
+                const QString path = files.next();
+                QTest::newRow(qPrintable(path)) << path;
+            }
+        }
+    }
+    void everyDrawingLoadsAndDraws() {
+        QFETCH(QString, path);
+        QSvgRenderer renderer(path);
+        QVERIFY(renderer.isValid());
+        // More than the bare ground.
+        QVERIFY(coloursOf(renderer, {48, 48}) > 2);
+    }
+
+    void everyIconExistsWithItsHover_data() {
+        QTest::addColumn<QString>("name");
+        for (const char* name :
+             {"Calcular", "Graficar", "Limpiar",     "Imprimir",  "Menu",         "Reporte",
+              "Crear",    "Accesar",  "Calculadora", "Ordenar",   "LimpiarDatos", "Q",
+              "T",        "Pmayor",   "Pmenor",      "calcularI", "Agregar",      "Cponderado",
+              "salir",    "CalX",     "CalY",        "Velocidad", "app"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+    void everyIconExistsWithItsHover() {
+        QFETCH(QString, name);
+        const QIcon icon = style::icon(name);
+        QVERIFY(!icon.isNull());
+        const QImage normal = icon.pixmap(24, QIcon::Normal).toImage();
+        const QImage hover = icon.pixmap(24, QIcon::Active).toImage();
+        QVERIFY(!normal.isNull());
+        QVERIFY(normal != hover);
+    }
+
+    void theIconsAreSquareAndTheCoverIsWide() {
+        QCOMPARE(QSvgRenderer(QStringLiteral(":/icons/Calcular.svg")).defaultSize(), QSize(24, 24));
+        const QSize cover =
+            QSvgRenderer(style::drawingPath(QStringLiteral("portada"))).defaultSize();
+        QVERIFY(cover.width() >= 2 * cover.height());
+    }
+
+    void aButtonWithoutDrawingHasNoIcon() {
+        QVERIFY(style::icon(QStringLiteral("NoExiste")).isNull());
+    }
+};
+
+QTEST_MAIN(ArtworkTest)
+#include "ArtworkTest.moc"

@@ -1,0 +1,141 @@
+#include "shell/files/SeriesFile.h"
+#include "tests/shell/files/SeriesBytes.h"
+#include "tests/shell/numbers/FailureNumber.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace caudalera {
+namespace {
+
+using testing::failureNumber;
+
+/// A folder of its own for every test.
+class SeriesFileTest : public ::testing::Test {
+protected:
+    SeriesFileTest()
+        : folder(std::filesystem::temp_directory_path() /
+                 (std::string("caudalera-series-") +
+                  ::testing::UnitTest::GetInstance()->current_test_info()->name())) {
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder);
+    }
+    ~SeriesFileTest() override { std::filesystem::remove_all(folder); }
+
+    std::string path(const std::string& name = "a.X") const { return (folder / name).string(); }
+    void save(int fields, const std::vector<float>& values) {
+        SeriesFile file(variables, path(), fields, SeriesFile::Access::replace);
+        const auto width = static_cast<std::size_t>(fields);
+        for (std::size_t i = 0; i < values.size(); i += width)
+            file.write(std::span(values).subspan(i, width));
+        file.close();
+    }
+    SeriesFile opened(int fields) {
+        return SeriesFile(variables, path(), fields, SeriesFile::Access::read);
+    }
+
+    std::filesystem::path folder;
+    Variables variables;
+};
+
+TEST_F(SeriesFileTest, RecordsAreLittleEndianSinglesWithNoGaps) {
+    save(2, {1.0F, 2.5F, -0.1F, 0.0F});
+    // IEEE 754: 1 = 3F800000, 2.5 = 40200000, the single nearest -0.1 = BDCCCCCD.
+    EXPECT_EQ(bytesOf(path()), (Bytes{0x00, 0x00, 0x80, 0x3F, 0x00, 0x00, 0x20, 0x40, 0xCD, 0xCC,
+                                      0xCC, 0xBD, 0x00, 0x00, 0x00, 0x00}));
+}
+
+TEST_F(SeriesFileTest, ReadingGivesTheSameRecordsInOrder) {
+    save(3, {1, 2, 3, 4, 5, 6});
+    SeriesFile file = opened(3);
+    EXPECT_EQ(file.records(), 2);
+    const auto first = file.read();
+    EXPECT_EQ((std::vector<float>(first.begin(), first.end())), (std::vector<float>{1, 2, 3}));
+    file.read();
+    EXPECT_EQ(variables.registroTrio, (std::array<float, 3>{4, 5, 6})) << "the shared buffer";
+    EXPECT_EQ(failureNumber([&] { file.read(); }), 75);
+}
+
+TEST_F(SeriesFileTest, EachWidthHasItsOwnBuffer) {
+    save(1, {1, 2, 3, 4});
+    for (const int fields : {1, 2, 4}) {
+        SeriesFile file = opened(fields);
+        EXPECT_EQ(file.records(), 4 / fields);
+        EXPECT_EQ(file.read().size(), static_cast<std::size_t>(fields));
+        file.close();
+    }
+    EXPECT_EQ(variables.registroUno[0], 1.0F);
+    EXPECT_EQ(variables.registroPar[1], 2.0F);
+    EXPECT_EQ(variables.registroCuarteto[3], 4.0F);
+}
+
+TEST_F(SeriesFileTest, APartialLastRecordDoesNotCount) {
+    writeBytes(path(), Bytes(10));
+    SeriesFile four = opened(1);
+    EXPECT_EQ(four.records(), 2);
+    four.close();
+    SeriesFile twelve = opened(3);
+    EXPECT_EQ(twelve.records(), 0);
+    twelve.close();
+}
+
+TEST_F(SeriesFileTest, MoreRecordsThan16BitsIsFailure6) {
+    writeBytes(path(), Bytes(131068));
+    SeriesFile most = opened(1);
+    EXPECT_EQ(most.records(), 32767) << "of four bytes";
+    most.close();
+    writeBytes(path(), Bytes(131072));
+    const SeriesFile more = opened(1);
+    EXPECT_EQ(failureNumber([&] { more.records(); }), 6);
+}
+
+TEST_F(SeriesFileTest, ReplacingLeavesNothingOfALongerFile) {
+    save(1, {1, 2, 3});
+    save(1, {9});
+    EXPECT_EQ(bytesOf(path()), (Bytes{0x00, 0x00, 0x10, 0x41})) << "9 = 41100000";
+    save(1, {});
+    EXPECT_EQ(bytesOf(path()), Bytes{});
+}
+
+TEST_F(SeriesFileTest, AFileThatCannotBeOpenedLeavesTheNumberFree) {
+    const auto access = [&](const std::string& name, SeriesFile::Access how) {
+        return failureNumber([&] { SeriesFile(variables, name, 1, how); });
+    };
+    EXPECT_EQ(access("", SeriesFile::Access::read), 52);
+    EXPECT_EQ(access("", SeriesFile::Access::replace), 52);
+    EXPECT_EQ(access(path("none.X"), SeriesFile::Access::read), 53);
+    EXPECT_FALSE(std::filesystem::exists(path("none.X"))) << "reading creates nothing";
+    EXPECT_EQ(access(folder.string(), SeriesFile::Access::read), 53);
+    EXPECT_EQ(access(folder.string(), SeriesFile::Access::replace), 75);
+    EXPECT_EQ(access(path("none/a.X"), SeriesFile::Access::replace), 75);
+    EXPECT_FALSE(variables.archivoUnoEnUso);
+}
+
+TEST_F(SeriesFileTest, TheNumberIsInUseUntilTheFileIsClosed) {
+    save(1, {1});
+    {
+        SeriesFile file = opened(1);
+        EXPECT_TRUE(variables.archivoUnoEnUso);
+        EXPECT_EQ(failureNumber([&] { opened(1); }), 55);
+        file.close();
+    }
+    EXPECT_FALSE(variables.archivoUnoEnUso);
+    { const SeriesFile left = opened(1); }
+    EXPECT_EQ(failureNumber([&] { opened(1); }), 55) << "closing is a step of its own";
+    EXPECT_EQ(failureNumber([&] { save(1, {2}); }), 55);
+    EXPECT_EQ(bytesOf(path()).size(), 4U);
+}
+
+TEST_F(SeriesFileTest, NamesMayHoldAnyCharacter) {
+    const std::string name = path("año ñandú €.X");
+    SeriesFile file(variables, name, 1, SeriesFile::Access::replace);
+    file.write(std::array{1.0F});
+    file.close();
+    EXPECT_TRUE(std::filesystem::exists(folder / u8"año ñandú €.X"));
+}
+
+} // namespace
+} // namespace caudalera

@@ -1,0 +1,240 @@
+#include "shell/window/Program.h"
+#include "shell/report/frmPadre.h"
+#include "tests/support/TestSheet.h"
+
+#include <string>
+#include <vector>
+
+namespace caudalera {
+namespace {
+
+class ProgramTest : public SheetTest {
+protected:
+    std::vector<std::string> loaded() const {
+        std::vector<std::string> names;
+        for (const auto& each : program.windows())
+            names.push_back(each->name());
+        return names;
+    }
+    bool exited() const {
+        return platform.ending && platform.ending->reason == Ending::Reason::exit;
+    }
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(ProgramTest, StartsWithTheMainWindowAlone) {
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+    EXPECT_TRUE(program.find("frmCaudalera")->visible);
+    EXPECT_FALSE(program.ended());
+    EXPECT_EQ(ventanaDeReportes(program), nullptr);
+}
+
+TEST_F(ProgramTest, AnUnknownWindowIsNotShown) {
+    Window* shown = program.find("frmCaudalera");
+    program.act([&] { shown = program.show("frmNinguna"); });
+    EXPECT_EQ(shown, nullptr);
+    EXPECT_FALSE(program.knows("frmNinguna"));
+    EXPECT_TRUE(program.knows("frmRegMul2Var"));
+    EXPECT_TRUE(program.knows("frmacerc"));
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+}
+
+TEST_F(ProgramTest, ShowingAnOpenWindowBringsItForwardWithItsDataUntouched) {
+    TestSheet& first = sheet("frmParamEsta");
+    values({"3", "5"});
+    sheet("frmRegMul2Var");
+    EXPECT_EQ(program.front()->name(), "frmRegMul2Var");
+    const auto shownBefore = first.shown;
+    EXPECT_EQ(&sheet("frmParamEsta"), &first);
+    EXPECT_EQ(program.front(), &first);
+    EXPECT_GT(first.shown, shownBefore);
+    EXPECT_EQ(data(), "3.0/5.0");
+    EXPECT_EQ(loaded(), (Names{"frmCaudalera", "frmParamEsta", "frmRegMul2Var"}));
+}
+
+TEST_F(ProgramTest, SeveralWorksheetsStandOpenAndShareNothing) {
+    sheet("frmParamEsta");
+    values({"1"});
+    sheet("frmRegreLineal");
+    EXPECT_EQ(data(), "");
+    rows({{"7", "8"}});
+    window("frmParamEsta");
+    EXPECT_EQ(data(), "1.0");
+}
+
+TEST_F(ProgramTest, MenuPrincipalUnloadsTheWorksheetAndShowsTheMainWindow) {
+    sheet("frmParamEsta");
+    values({"3", "5"});
+    click("bMenu");
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+    EXPECT_EQ(program.front()->name(), "frmCaudalera");
+    sheet("frmParamEsta");
+    EXPECT_EQ(data(), "") << "the next opening starts from the load state";
+    EXPECT_EQ(marks(), "[?]");
+}
+
+TEST_F(ProgramTest, LoadingResetsTheGridAndThenTheResults) {
+    EXPECT_EQ(sheet().pasos, Names{"reiniciarResultados con 2 filas"});
+}
+
+TEST_F(ProgramTest, ClosingByTheFrameUnloads) {
+    sheet("frmParamEsta");
+    values({"3"});
+    program.close(window("frmParamEsta"));
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+    EXPECT_FALSE(program.ended());
+    sheet("frmParamEsta");
+    EXPECT_EQ(data(), "");
+}
+
+TEST_F(ProgramTest, ClosingTheMainWindowLeavesTheOthersOpen) {
+    sheet("frmParamEsta");
+    values({"3"});
+    program.close(*program.find("frmCaudalera"));
+    EXPECT_EQ(loaded(), Names{"frmParamEsta"});
+    EXPECT_FALSE(program.ended());
+    EXPECT_EQ(data(), "3.0");
+    click("bMenu");
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"}) << "the menu command makes a new one";
+    EXPECT_FALSE(program.ended());
+}
+
+TEST_F(ProgramTest, ClosingTheLastWindowEndsTheProgram) {
+    program.close(*program.find("frmCaudalera"));
+    EXPECT_TRUE(exited());
+    EXPECT_TRUE(program.ended());
+}
+
+TEST_F(ProgramTest, SalirEndsAtOnceWithoutAnyQuestion) {
+    sheet("frmParamEsta");
+    values({"3"});
+    click("bReporte");
+    window("frmCaudalera");
+    click("bsalir");
+    EXPECT_TRUE(exited());
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_TRUE(platform.dialogsSeen.empty());
+    EXPECT_TRUE(platform.settings.empty()) << "the report window is discarded, not closed";
+}
+
+TEST_F(ProgramTest, TheMenusSalirDoesTheSame) {
+    click("mparasalir");
+    EXPECT_TRUE(exited());
+}
+
+TEST_F(ProgramTest, AFailureWithoutATrapIsFatal) {
+    sheet("frmParamEsta");
+    click("bCalcular");
+    EXPECT_TRUE(fatal(11)) << "the mean of no values divides by 0";
+    EXPECT_EQ(program.ended()->number, 11);
+    EXPECT_EQ(messages(), std::vector<Message>{});
+}
+
+TEST_F(ProgramTest, AFatalFailureLeavesWhatWasWrittenBefore) {
+    auto& hoja = sheet("frmParamEsta");
+    for (long i = 0; i < TestSheet::capacidad + 1; ++i)
+        values({"1"});
+    EXPECT_FALSE(program.ended()) << "the grid itself has no limit";
+    click("bCalcular");
+    EXPECT_TRUE(fatal(9));
+    EXPECT_EQ(hoja.valor(1, TestSheet::capacidad).value(), 1.0);
+}
+
+TEST_F(ProgramTest, AfterTheEndNothingRunsAndThePlatformIsToldOnce) {
+    auto& hoja = sheet("frmParamEsta");
+    click("bCalcular");
+    platform.ending.reset();
+    values({"1"});
+    click("bMenu");
+    program.close(hoja);
+    EXPECT_EQ(data(), "");
+    EXPECT_EQ(program.find("frmParamEsta"), &hoja);
+    EXPECT_FALSE(platform.ending);
+}
+
+TEST_F(ProgramTest, AFailureDuringTheLoadOfAWindowIsFatal) {
+    platform.settings["MainLeft"] = "1e999";
+    program.act([&] { program.show("frmPadre"); });
+    EXPECT_TRUE(fatal(6));
+}
+
+TEST_F(ProgramTest, AnActInsideAnActIsTheSameEvent) {
+    sheet("frmParamEsta");
+    const Window* const hoja = program.find("frmParamEsta");
+    program.act([&] {
+        click("bMenu");
+        EXPECT_EQ(hoja->name(), "frmParamEsta") << "what the running event stands on is kept";
+    });
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+}
+
+TEST_F(ProgramTest, PrintingSendsTheWindowWithoutADialog) {
+    sheet("frmParamEsta");
+    click("bImprimir");
+    ASSERT_EQ(platform.printed.size(), 1U);
+    EXPECT_EQ(platform.printed[0].what, "window");
+    EXPECT_EQ(platform.printed[0].name, "frmParamEsta");
+    EXPECT_TRUE(platform.dialogsSeen.empty());
+}
+
+TEST_F(ProgramTest, LimpiarReturnsToTheLoadState) {
+    auto& hoja = sheet("frmParamEsta");
+    values({"3", "5"});
+    click("bCalcular");
+    EXPECT_EQ(text("txtres"), "4.00");
+    EXPECT_EQ(cellText("grdres", 1, 0), "4.00");
+    click("bLimpiar");
+    EXPECT_EQ(text("txtres"), "");
+    EXPECT_EQ(cellText("grdres", 1, 0), "");
+    EXPECT_EQ(hoja.grdt.Rows(), 2);
+    EXPECT_EQ(marks(), "[?]");
+    EXPECT_FALSE(program.ended());
+}
+
+TEST_F(ProgramTest, ResultsStandUntilTheNextCalculation) {
+    sheet("frmParamEsta");
+    values({"3", "5"});
+    click("bCalcular");
+    values({"10"});
+    EXPECT_EQ(text("txtres"), "4.00");
+    click("bCalcular");
+    EXPECT_EQ(text("txtres"), "6.00");
+}
+
+TEST_F(ProgramTest, TheCalculatorOpensFromEveryWorksheetAsOneInstance) {
+    sheet("frmParamEsta");
+    EXPECT_EQ(control<Button>("bCalculadora").enabled, program.knows("frmCalculadora"));
+    if (!program.knows("frmCalculadora"))
+        return;
+    click("bCalculadora");
+    const Window* const calculator = program.find("frmCalculadora");
+    sheet("frmRegreLineal");
+    click("bCalculadora");
+    EXPECT_EQ(program.front(), calculator);
+}
+
+TEST_F(ProgramTest, TheCommandsReadAsTheFormsDo) {
+    auto& hoja = sheet();
+    const std::vector<std::pair<const Button*, std::array<std::string, 2>>> told = {
+        {&hoja.bCalcular, {"Calc&ular", "Efectuar cálculos"}},
+        {&hoja.bLimpiar, {"&Limpiar", "Limpiar pantalla"}},
+        {&hoja.bImprimir, {"&Imprimir", "Imprimir pantalla"}},
+        {&hoja.bMenu, {"&Menú Principal", "Retornar menú principal"}},
+        {&hoja.bReporte, {"&Reporte", "Generar reporte"}},
+        {&hoja.bCrear, {"&Crear", "Crear archivo"}},
+        {&hoja.bAccesar, {"&Accesar", "Cargar archivo"}},
+        {&hoja.bCalculadora, {"Calculadora", ""}},
+    };
+    for (const auto& [button, texts] : told) {
+        EXPECT_EQ(button->caption, texts[0]);
+        EXPECT_EQ(button->toolTip, texts[1]);
+    }
+    EXPECT_EQ(hoja.Frame7.caption, "Archivos y resultados:");
+    EXPECT_EQ(hoja.mnuEdicion.caption, "Edición");
+    EXPECT_EQ(hoja.mnuEditInsertar.caption, "Insertar Fila");
+    EXPECT_EQ(hoja.mnuEditEliminar.caption, "Eliminar Fila");
+}
+
+} // namespace
+} // namespace caudalera

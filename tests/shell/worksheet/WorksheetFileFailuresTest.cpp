@@ -1,0 +1,141 @@
+#include "tests/shell/worksheet/SheetFilesTest.h"
+
+#include <string>
+#include <vector>
+
+namespace caudalera {
+namespace {
+
+class WorksheetFileFailuresTest : public SheetFilesTest {};
+
+TEST_F(WorksheetFileFailuresTest, WithALastRecordAFileOfNoRecordsFailsSilently) {
+    auto& hoja = sheet("frmQmaxNash");
+    values({"1"});
+    load(zeros(0));
+    EXPECT_EQ(hoja.grdt.Rows(), 2);
+    EXPECT_EQ(marks(), "[?]");
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_FALSE(program.ended());
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+}
+
+TEST_F(WorksheetFileFailuresTest, AFileThatCannotBeOpenedFailsSilentlyAndLeavesAnEmptyGrid) {
+    auto& hoja = sheet("frmParamEsta");
+    for (const std::string& path : {file("none.X"), file(""), file("none/a.X")}) {
+        values({"1"});
+        load(path);
+        EXPECT_EQ(hoja.grdt.Rows(), 2);
+        EXPECT_EQ(marks(), "[?]");
+        EXPECT_EQ(hoja.n, 0);
+    }
+    EXPECT_FALSE(std::filesystem::exists(file("none.X")));
+    values({"1"});
+    save(file("none/a.X"));
+    save(file(""));
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_FALSE(program.variables.archivoUnoEnUso) << "nothing was open";
+    save(file("a.X"));
+    EXPECT_EQ(bytesOf(file("a.X")).size(), 4U);
+}
+
+TEST_F(WorksheetFileFailuresTest, OnlyTheDialogsOwnErrorHasAMessage) {
+    auto& hoja = sheet("frmParamEsta");
+    hoja.falloAlLeer = Failure::dialogCancelled;
+    save(file("a.X"));
+    EXPECT_EQ(messages(),
+              (std::vector<Message>{
+                  {"Error desconocido al salvar el archivo " + file("a.X"), "", Icon::none}}));
+    hoja.falloAlLeer = Failure::divisionByZero;
+    save(file("a.X"));
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    hoja.falloAlLeer.reset();
+    save(file("a.X"));
+    hoja.falloTrasAccesar = Failure::dialogCancelled;
+    load(file("a.X"));
+    EXPECT_EQ(messages(),
+              (std::vector<Message>{
+                  {"Error desconocido al abrir el archivo " + file("a.X"), "", Icon::none}}));
+    hoja.falloTrasAccesar = Failure::index;
+    load(file("a.X"));
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_FALSE(program.ended());
+}
+
+TEST_F(WorksheetFileFailuresTest, RowsPastTheCapacityAreFatalInSpiteOfTheTrap) {
+    sheet("frmParamEsta");
+    values(std::vector<std::string>(TestSheet::capacidad + 1, "1"));
+    save(file("a.X"));
+    EXPECT_TRUE(fatal(9));
+    EXPECT_EQ(platform.dialogsSeen.size(), 1U) << "the dialog comes first";
+    EXPECT_FALSE(std::filesystem::exists(file("a.X")));
+}
+
+TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileNumberInUse) {
+    sheet("frmParamEsta");
+    values({"1", "1e39"});
+    save(file("a.X"));
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_FALSE(program.ended());
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+    EXPECT_EQ(bytesOf(file("a.X")).size(), 4U) << "what was written before stays";
+
+    sheet("frmRegreLineal");
+    rows({{"1", "2"}});
+    save(file("b.XY"));
+    EXPECT_FALSE(std::filesystem::exists(file("b.XY"))) << "every later file command fails";
+    load(file("a.X"));
+    EXPECT_EQ(data(), "");
+    EXPECT_EQ(messages(), std::vector<Message>{});
+}
+
+TEST_F(WorksheetFileFailuresTest, ARecordThatIsNoNumberEndsTheLoadWhereItStands) {
+    auto& hoja = sheet("frmParamEsta");
+    // 1, the quiet not-a-number 7FC00000, 2.5.
+    writeBytes(file("nan.X"),
+               {0x00, 0x00, 0x80, 0x3F, 0x00, 0x00, 0xC0, 0x7F, 0x00, 0x00, 0x20, 0x40});
+    load(file("nan.X"));
+    EXPECT_EQ(hoja.grdt.Rows(), 5);
+    EXPECT_EQ(data(), "1.0//");
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+}
+
+TEST_F(WorksheetFileFailuresTest, AGridHoldsAsManyRowsAs16BitsCount) {
+    auto& hoja = sheet("frmParamEsta");
+    load(zeros(32765));
+    EXPECT_EQ(hoja.grdt.Rows(), 32767);
+    EXPECT_EQ(cellText("grdt", 32765, 0), " 32765");
+    EXPECT_EQ(cellText("grdt", 32766, 0), "[->]");
+    load(zeros(32766));
+    EXPECT_EQ(hoja.grdt.Rows(), 2) << "two rows more than records are too many";
+    EXPECT_EQ(program.variables.numRegistros, 32766);
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+    EXPECT_FALSE(program.ended());
+    EXPECT_EQ(messages(), std::vector<Message>{});
+}
+
+TEST_F(WorksheetFileFailuresTest, MoreRecordsThan16BitsFailSilently) {
+    auto& hoja = sheet("frmParamEsta");
+    load(zeros(32768));
+    EXPECT_EQ(hoja.grdt.Rows(), 2);
+    EXPECT_EQ(program.variables.numRegistros, 0);
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+    EXPECT_FALSE(program.ended());
+}
+
+TEST_F(WorksheetFileFailuresTest, WithALastRecordTheGridHoldsOneRecordMore) {
+    auto& hoja = sheet("frmQmaxNash");
+    load(zeros(32766));
+    EXPECT_EQ(hoja.grdt.Rows(), 32767);
+    EXPECT_EQ(hoja.n, 32765);
+}
+
+TEST_F(WorksheetFileFailuresTest, AppendingPastThe16BitsIsFatal) {
+    sheet("frmParamEsta");
+    load(zeros(32765));
+    values({"1"});
+    EXPECT_TRUE(fatal(6));
+}
+
+} // namespace
+} // namespace caudalera
