@@ -36,12 +36,18 @@ function(caudalera_room NAME)
     endif()
 endfunction()
 
+# What the tests themselves compute takes no time; compiling them does.
+add_library(caudalera_test_options INTERFACE)
+target_compile_options(caudalera_test_options INTERFACE $<$<CXX_COMPILER_ID:GNU,Clang>:-O0>)
+
 # caudalera_tests(NAME [target...]): the current folder as one GoogleTest program, which CTest runs
 # as one test with a time limit, so that nothing hangs unseen.
 function(caudalera_tests NAME)
     caudalera_sources(sources)
     add_executable(${NAME} ${sources})
-    target_link_libraries(${NAME} PRIVATE caudalera_options ${ARGN} GTest::gtest GTest::gtest_main)
+    target_precompile_headers(${NAME} REUSE_FROM test_support)
+    target_link_libraries(${NAME} PRIVATE
+        caudalera_options caudalera_test_options ${ARGN} GTest::gtest GTest::gtest_main)
     target_compile_definitions(${NAME} PRIVATE
         CAUDALERA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     add_test(NAME ${NAME} COMMAND ${NAME})
