@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string_view>
-#include <vector>
 
 namespace caudalera {
 
@@ -21,8 +20,6 @@ struct FitTexts {
     /// Headers of columns 3 and 4 of `grddis`, and the last three titles of the report's table.
     std::array<std::string_view, 2> encabezados;
     std::array<std::string_view, 3> titulosReporte;
-    /// One for each series of the chart.
-    std::vector<std::string_view> leyendas;
 
     std::string_view mascaraPeriodo;
     std::string_view mascaraProbabilidad;

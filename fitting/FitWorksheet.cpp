@@ -1,6 +1,7 @@
 #include "fitting/FitWorksheet.h"
 
 #include "fitting/smirnovKolmogorov.h"
+#include "shell/numbers/momentos.h"
 #include "shell/text/Text.h"
 #include "shell/worksheet/Messages.h"
 
@@ -16,8 +17,9 @@ constexpr std::string_view mascaraCaudal = "#####0.#0";
 
 FitWorksheet::FitWorksheet(Program& program, std::string name, std::string text,
                            const FitTexts& texts)
-    : Worksheet(program, std::move(name), std::move(text), "N°"),
+    : Worksheet(program, std::move(name), std::move(text), "N°", layoutSerieX()),
       fraParametros(*this, "fraParametros", std::string(texts.marcoParametros)), texts_(texts) {
+    columnas = {&serieDatos};
     if (texts.momentosLineales)
         tipoDeAjuste.emplace(*this);
     opt005.preset(true);
@@ -35,13 +37,14 @@ void FitWorksheet::disponer(Layout camposDeParametros) {
     using namespace layout;
     lblAjuste.heading = true;
     lblmensaje.wraps = true;
-    for (const Parametro* each : parametros()) {
-        each->campo->result = true;
-        each->campo->width = 12;
-    }
-    txtxp.result = true;
+    registrarEntradas({&txtxq, &txtxt});
+    registrarResultados({&txtxp});
     for (TextBox* campo : {&txtxq, &txtxt, &txtxp})
         campo->width = 12;
+    for (const Parametro* each : parametros()) {
+        registrarResultados({each->campo});
+        each->campo->width = 12;
+    }
 
     std::vector<Layout> elecciones;
     if (tipoDeAjuste) {
@@ -81,10 +84,7 @@ void FitWorksheet::reiniciarResultados() {
 }
 
 void FitWorksheet::borrarCampos() {
-    for (TextBox* campo : {&txtxq, &txtxt, &txtxp})
-        campo->setText({});
-    for (const Parametro* each : parametros())
-        each->campo->setText({});
+    vaciarCampos();
     ajusteCalculado = false;
     lblmensaje.caption.clear();
     lblAjuste.caption = "Ajuste:";
@@ -104,19 +104,27 @@ void FitWorksheet::antesDeAccesar() {
 }
 
 void FitWorksheet::leerCuadricula() {
-    n = contarFilas();
-    conteoDatos = n;
-    for (long i = 1; i <= conteoDatos; ++i)
-        serieDatos[i] = valorCelda(i, 1);
-}
-
-Real FitWorksheet::elementoSerie(long /*columna*/, long i) const {
-    return serieDatos[i];
+    conteoDatos = contarFilas();
+    Worksheet::leerCuadricula();
 }
 
 FitWorksheet::Momentos FitWorksheet::tipoElegido() const {
     return tipoDeAjuste && tipoDeAjuste->optMomentoLi.checked() ? Momentos::lineales
                                                                 : Momentos::ordinarios;
+}
+
+std::vector<FitWorksheet::Momentos> FitWorksheet::tipos() const {
+    if (tipoDeAjuste)
+        return {Momentos::ordinarios, Momentos::lineales};
+    return {Momentos::ordinarios};
+}
+
+Serie& FitWorksheet::reducidas(Momentos tipo) {
+    return tipo == Momentos::lineales ? reducidaLineal : reducidaOrdinaria;
+}
+
+Serie& FitWorksheet::acumuladas(Momentos tipo) {
+    return tipo == Momentos::lineales ? acumLineal : acumOrdinaria;
 }
 
 void FitWorksheet::mensajeDeError(std::string_view texto) const {
@@ -131,12 +139,13 @@ void FitWorksheet::calcular() {
 }
 
 void FitWorksheet::ajustar() {
+    alEmpezar();
     leerCuadricula();
     if (!admitirSerie())
         return;
     for (long i = 1; i <= conteoDatos; ++i)
         serieOrdenada[i] = serieDatos[i];
-    ordenarAscendente(serieOrdenada, conteoDatos);
+    ordenarAscendente(serieOrdenada.primeros(conteoDatos));
     if (!admitirOrdenada())
         return;
     for (long m = 1; m <= conteoDatos; ++m)
@@ -150,19 +159,30 @@ void FitWorksheet::ajustar() {
     ajusteCalculado = true;
 }
 
+void FitWorksheet::calcularAcumuladas() {
+    for (const Momentos tipo : tipos()) {
+        for (long m = 1; m <= conteoDatos; ++m)
+            reducidas(tipo)[m] = reducir(tipo, serieOrdenada[m]);
+        trasReducir(tipo, reducidas(tipo).primeros(conteoDatos));
+    }
+    for (const Momentos tipo : tipos()) {
+        for (long m = 1; m <= conteoDatos; ++m)
+            acumuladas(tipo)[m] = probabilidad(tipo, reducidas(tipo)[m]);
+    }
+}
+
 void FitWorksheet::escribirParametros() {
     for (const Parametro* each : parametros())
         each->campo->setText(formatear(*each->valor, mascaraValor));
 }
 
 void FitWorksheet::probarAjuste() {
-    const bool conLineales = tipoElegido() == Momentos::lineales;
-    lblAjuste.caption =
-        conLineales ? "Ajuste con momentos lineales:" : "Ajuste con momentos ordinarios:";
-    const SerieConOrigen& acumuladaElegida = conLineales ? acumLineal : acumOrdinaria;
+    const Momentos tipo = tipoElegido();
+    lblAjuste.caption = tipo == Momentos::lineales ? "Ajuste con momentos lineales:"
+                                                   : "Ajuste con momentos ordinarios:";
     for (long m = 1; m <= conteoDatos; ++m)
-        delta[m] = Abs(probEmpirica[m] - acumuladaElegida[m]);
-    const Real teorico = deltaTeorico(delta, conteoDatos);
+        delta[m] = Abs(probEmpirica[m] - acumuladas(tipo)[m]);
+    const Real teorico = deltaTeorico(delta.primeros(conteoDatos));
     escribirResultados();
     escribirVeredicto(teorico);
 }
@@ -172,8 +192,8 @@ void FitWorksheet::escribirResultados() {
         grddis.setTextMatrix(m, 0, textoPlano(m));
         grddis.setTextMatrix(m, 1, formatear(serieOrdenada[m], mascaraValor));
         grddis.setTextMatrix(m, 2, formatear(probEmpirica[m], mascaraAcumulada));
-        grddis.setTextMatrix(m, 3, formatear((*columnas[0])[m], mascaraAcumulada));
-        grddis.setTextMatrix(m, 4, formatear((*columnas[1])[m], mascaraAcumulada));
+        grddis.setTextMatrix(m, 3, formatear((*columnasDeAjuste[0])[m], mascaraAcumulada));
+        grddis.setTextMatrix(m, 4, formatear((*columnasDeAjuste[1])[m], mascaraAcumulada));
         grddis.setTextMatrix(m, 5, formatear(delta[m], mascaraAcumulada));
     }
     grddis.clearRowsFrom(conteoDatos + 1);
@@ -205,24 +225,18 @@ void FitWorksheet::escribirVeredicto(Real teorico) {
 }
 
 void FitWorksheet::graficar() {
-    if (!ajusteCalculado) {
-        mensajeDeError(mensajeGraficoSinCalculo);
+    if (!hayCalculo(ajusteCalculado, {mensajeGraficoSinCalculo, "Mensaje de Error", Icon::error}) ||
+        !hayPuntos(conteoDatos, graficoDeDosPuntos()))
         return;
-    }
-    if (conteoDatos <= 1) {
-        mensaje(mensajeGraficoDosPuntos, "Error", Icon::error);
-        return;
-    }
     LineChart chart;
     chart.x.emplace(1, 0.0);
     for (long m = 1; m <= conteoDatos; ++m)
         chart.x->push_back(serieOrdenada[m].value());
-    for (std::size_t i = 0; i < curvas.size(); ++i) {
-        SerieConOrigen& curva = *curvas[i];
-        curva[0] = 0;
-        Graph::Series series{std::string(texts_.leyendas.at(i)), {}};
+    for (const Curva& curva : curvas) {
+        (*curva.serie)[0] = 0;
+        Graph::Series series{std::string(curva.leyenda), {}};
         for (long m = 0; m <= conteoDatos; ++m)
-            series.y.push_back(curva[m].value());
+            series.y.push_back((*curva.serie)[m].value());
         chart.series.push_back(std::move(series));
     }
     dibujarLineas(Graph1, std::move(chart));
@@ -247,7 +261,7 @@ void FitWorksheet::evaluarQ() {
         return;
     const Real T = Val(txtxt.text());
     const Real p = 1 - 1 / T;
-    txtxq.setText(formatear(inversa(tipoElegido(), p), mascaraCaudal));
+    txtxq.setText(formatear(cuantil(tipoElegido(), p), mascaraCaudal));
 }
 
 void FitWorksheet::evaluarCaudal(Evaluacion cual) {
@@ -263,7 +277,7 @@ void FitWorksheet::evaluarCaudal(Evaluacion cual) {
     const Real q = Val(txtxq.text());
     if (!admitirCaudal(cual, tipo, q))
         return;
-    const Real F = acumulada(tipo, q);
+    const Real F = probabilidad(tipo, reducir(tipo, q));
     if (cual == Evaluacion::T) {
         txtxt.setText(formatear(1 / (1 - F), texts_.mascaraPeriodo));
     } else if (cual == Evaluacion::Pmayor) {

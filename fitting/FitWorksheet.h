@@ -1,13 +1,14 @@
 #pragma once
 
 #include "fitting/FitTexts.h"
-#include "shell/numbers/Series.h"
+#include "shell/numbers/Serie.h"
 #include "shell/window/Graph.h"
 #include "shell/worksheet/DataEntry.h"
 #include "shell/worksheet/Worksheet.h"
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -15,8 +16,8 @@ namespace caudalera {
 
 /// The template of the windows that fit a distribution to a series: empirical probabilities,
 /// parameters, theoretical probabilities, the Smirnov-Kolmogorov test, and the four questions to
-/// the fitted distribution. A window supplies its texts and masks, the checks of its series, its
-/// parameters, its cumulative function and the inverse of that.
+/// the fitted distribution, all of it for each kind of moments that the window has. A window
+/// supplies its texts and masks, the checks of its series and its distribution.
 class FitWorksheet : public Worksheet {
 public:
     FitWorksheet(Program& program, std::string name, std::string caption, const FitTexts& texts);
@@ -70,25 +71,32 @@ protected:
         std::string_view linea;
     };
 
+    /// A curve of the chart and its legend.
+    struct Curva {
+        Serie* serie;
+        std::string_view leyenda;
+    };
+
     // What a window sets when it is built.
     std::vector<Parametro> ordinarios;
     std::vector<Parametro> lineales;
     /// What columns 3 and 4 of `grddis` show.
-    std::array<const SerieConOrigen*, 2> columnas{&acumOrdinaria, &acumLineal};
-    /// What the chart draws, in the order of the legends.
-    std::vector<SerieConOrigen*> curvas{&probEmpirica, &acumOrdinaria, &acumLineal};
+    std::array<const Serie*, 2> columnasDeAjuste{&acumOrdinaria, &acumLineal};
+    std::vector<Curva> curvas{{&probEmpirica, "Exp"}, {&acumOrdinaria, "Ord"}, {&acumLineal, "ML"}};
     /// Sets the layout and the commands, with the parameter fields as they stand in their frame.
     void disponer(Layout camposDeParametros);
 
     // What a window supplies to `bCalcular`, in the order of the steps.
+    /// Before anything else.
+    virtual void alEmpezar() {}
     /// Looks at the series in input order; false, after its message, ends the command.
     virtual bool admitirSerie() { return true; }
-    /// The same for the sorted series.
+    /// The same for the sorted series, before the empirical probabilities.
     virtual bool admitirOrdenada() { return true; }
     /// Fills the parameters one after another, so that a failure leaves those before it.
     virtual void calcularParametros() = 0;
-    /// Fills the cumulative arrays, after all reduced variates.
-    virtual void calcularAcumuladas() = 0;
+    /// Looks at all reduced variates of a kind, before any cumulative value.
+    virtual void trasReducir(Momentos /*tipo*/, std::span<const Real> /*reducidas*/) {}
     /// Before the test and behind it.
     virtual void antesDelAjuste() {}
     virtual void trasElAjuste() {}
@@ -98,13 +106,18 @@ protected:
     virtual bool admitirEvaluacion(Momentos /*tipo*/) { return true; }
     /// The same for the flow that T, Pmayor or Pmenor asks about.
     virtual bool admitirCaudal(Evaluacion /*cual*/, Momentos /*tipo*/, Real /*q*/) { return true; }
-    /// Probability of non-exceedance F(q).
-    virtual Real acumulada(Momentos tipo, Real q) = 0;
+
+    // The distribution with the parameters of a kind of moments.
+    virtual Real reducir(Momentos tipo, Real q) = 0;
+    /// Probability of non-exceedance of a reduced variate.
+    virtual Real probabilidad(Momentos tipo, Real reducida) = 0;
     /// Flow of a probability of non-exceedance.
-    virtual Real inversa(Momentos tipo, Real p) = 0;
+    virtual Real cuantil(Momentos tipo, Real p) = 0;
 
     /// As the options stand now.
     Momentos tipoElegido() const;
+    /// The kinds that the window has.
+    std::vector<Momentos> tipos() const;
 
     void calcular() override;
     void limpiar() override;
@@ -112,20 +125,26 @@ protected:
     void reiniciarResultados() override;
     void antesDeAccesar() override;
     void leerCuadricula() override;
-    Real elementoSerie(long columna, long i) const override;
 
+    static constexpr long capacidad = 500;
     /// Rows of data at the last `bCalcular` or `bCrear`.
     Integer16 conteoDatos;
-    Serie serieDatos;
-    Serie serieOrdenada;
-    SerieConOrigen probEmpirica;
-    SerieConOrigen acumOrdinaria;
-    SerieConOrigen acumLineal;
-    Serie delta;
+    Serie serieDatos{capacidad};
+    Serie serieOrdenada{capacidad};
+    /// These have an element 0 in front, where the chart has its origin.
+    Serie probEmpirica{0, capacidad};
+    Serie acumOrdinaria{0, capacidad};
+    Serie acumLineal{0, capacidad};
+    Serie reducidaOrdinaria{capacidad};
+    Serie reducidaLineal{capacidad};
+    Serie delta{capacidad};
     bool ajusteCalculado = false;
 
 private:
     void ajustar();
+    Serie& reducidas(Momentos tipo);
+    Serie& acumuladas(Momentos tipo);
+    void calcularAcumuladas();
     void escribirParametros();
     void probarAjuste();
     void escribirResultados();

@@ -1,4 +1,4 @@
-#include "fitting/normal.h"
+#include "fitting/aproximacionNormal.h"
 
 namespace caudalera {
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "fitting/FitWorksheet.h"
+#include "fitting/FitWindow.h"
+#include "fitting/normal.h"
 
 namespace caudalera {
 
 /// Fit of a series to the normal distribution.
-class frmDisNormal : public FitWorksheet {
+class frmDisNormal : public FitWindow<Normal> {
 public:
     explicit frmDisNormal(Program& program);
 
@@ -13,20 +14,6 @@ public:
     TextBox txtSX{*this, "txtSX", "De escala (S):"};
     TextBox txtmedial{*this, "txtmedial", "Media  lineal (Xl):"};
     TextBox txtsl{*this, "txtsl", "Des. Estandar (S l):"};
-
-protected:
-    void calcularParametros() override;
-    void calcularAcumuladas() override;
-    Real acumulada(Momentos tipo, Real q) override;
-    Real inversa(Momentos tipo, Real p) override;
-
-private:
-    Real variableReducida(Momentos tipo, Real q) const;
-
-    Real Xm;
-    Real S;
-    Real Xl;
-    Real Sl;
 };
 
 } // namespace caudalera

@@ -1,17 +1,17 @@
 #include "fitting/smirnovKolmogorov.h"
 
+#include <algorithm>
+
 namespace caudalera {
 
 Real posicionWeibull(long m, long n) {
     return Real(static_cast<double>(m)) / (Real(static_cast<double>(n)) + 1);
 }
 
-Real deltaTeorico(const Serie& delta, long n) {
-    Real mayor = delta[1];
-    for (long m = 1; m <= n; ++m) {
-        if (delta[m] >= mayor)
-            mayor = delta[m];
-    }
+Real deltaTeorico(std::span<const Real> delta) {
+    Real mayor = 0;
+    for (const Real cada : delta)
+        mayor = std::max(mayor, cada);
     return mayor;
 }
 

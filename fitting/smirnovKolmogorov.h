@@ -1,6 +1,8 @@
 #pragma once
 
-#include "shell/numbers/Series.h"
+#include "shell/numbers/Real.h"
+
+#include <span>
 
 namespace caudalera {
 
@@ -8,8 +10,8 @@ namespace caudalera {
 /// position of Weibull: m / (n + 1).
 Real posicionWeibull(long m, long n);
 
-/// Theoretical delta of the test: the largest of the first n differences.
-Real deltaTeorico(const Serie& delta, long n);
+/// Theoretical delta of the test: the largest of the differences, which are absolute; 0 of none.
+Real deltaTeorico(std::span<const Real> delta);
 
 /// Tabular delta of the test for n values, the large-sample form c / Sqr(n), with the coefficient c
 /// of the significance level: 1.07 (20 %), 1.22 (10 %), 1.36 (5 %), 1.63 (1 %). Failure 11 for

@@ -25,7 +25,9 @@ bool esTeclaDeNumero(char32_t tecla, std::string_view texto) {
 } // namespace
 
 IntensityWorksheet::IntensityWorksheet(Program& program, std::string name, std::string text)
-    : Worksheet(program, std::move(name), std::move(text), "Trío") {
+    : Worksheet(program, std::move(name), std::move(text), "Trío",
+                layoutTriosTDI("I máx (mm/hr)")) {
+    columnas = {&T_, &D_, &Imax_};
     lbleti1i.heading = true;
     lbleti2i.heading = true;
     txtDuracionAdi.visible = false;
@@ -123,19 +125,6 @@ void IntensityWorksheet::limpiarI() {
     for (TextBox* campo : {&txtLi, &txtHi, &txtTi, &txttci, &txtImaxi})
         campo->setText({});
     setFocus(txtLi);
-}
-
-void IntensityWorksheet::leerCuadricula() {
-    n = contarFilas();
-    for (long i = 1; i <= n; ++i) {
-        T_[i] = valorCelda(i, 1);
-        D_[i] = valorCelda(i, 2);
-        Imax_[i] = valorCelda(i, 3);
-    }
-}
-
-Real IntensityWorksheet::elementoSerie(long columna, long i) const {
-    return columna == 1 ? T_[i] : columna == 2 ? D_[i] : Imax_[i];
 }
 
 void IntensityWorksheet::antesDeAccesar() {

@@ -2,7 +2,6 @@
 
 #include "peakflow/intensidadProvincial.h"
 #include "regression/ajustePotencial.h"
-#include "shell/numbers/BoundedArray.h"
 #include "shell/worksheet/Worksheet.h"
 
 #include <optional>
@@ -73,8 +72,6 @@ protected:
     /// Lets typing bring in digits, one decimal point and backspace alone.
     static void soloNumeros(const std::vector<TextBox*>& campos);
 
-    void leerCuadricula() override;
-    Real elementoSerie(long columna, long i) const override;
     void antesDeAccesar() override;
 
 private:
@@ -96,9 +93,10 @@ private:
     bool intensidadDeRegistros();
     std::optional<Provincia> provinciaElegida() const;
 
-    BoundedArray<Real, 1, 500> T_;
-    BoundedArray<Real, 1, 500> D_;
-    BoundedArray<Real, 1, 500> Imax_;
+    static constexpr long capacidad = 500;
+    Serie T_{capacidad};
+    Serie D_{capacidad};
+    Serie Imax_{capacidad};
     float periodo_ = 0;
     Real duracion_;
     Real intensidad_;

@@ -56,13 +56,6 @@ Layout RainfallFlowWindow::disposicion(std::vector<Layout::FieldLine> lineasQ,
         });
 }
 
-void RainfallFlowWindow::encadenar(const std::vector<Control*>& controles) {
-    for (std::size_t i = 0; i + 1 < controles.size(); ++i) {
-        if (auto* campo = dynamic_cast<TextBox*>(controles[i]))
-            campo->onEnter = [this, siguiente = controles[i + 1]] { setFocus(siguiente); };
-    }
-}
-
 void RainfallFlowWindow::elegirPestana() {
     switch (SSTab1.tab()) {
     case pestanaQ:
@@ -111,12 +104,9 @@ void RainfallFlowWindow::limpiar() {
 
 void RainfallFlowWindow::calcular() {
     for (const auto& [campo, nombre] : camposDeQ()) {
-        if (!campo->text().empty())
-            continue;
-        mensaje("Ingresar un valor adecuado para " + nombre, "Error por dato inadecuado");
-        campo->setText({});
-        setFocus(campo);
-        return;
+        if (!exigir(*campo,
+                    {"Ingresar un valor adecuado para " + nombre, "Error por dato inadecuado"}))
+            return;
     }
     txtqmax.setText(formatear(caudal(), "0.##0"));
 }

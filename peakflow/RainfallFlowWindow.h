@@ -1,7 +1,6 @@
 #pragma once
 
 #include "peakflow/IntensityWorksheet.h"
-#include "shell/numbers/BoundedArray.h"
 #include "shell/numbers/Integer16.h"
 
 #include <array>
@@ -99,8 +98,6 @@ protected:
     /// The three tabs, with the window's own lines of fields in the first two.
     Layout disposicion(std::vector<Layout::FieldLine> lineasQ,
                        std::vector<Layout::FieldLine> lineasGrupo);
-    /// ENTER moves the focus along these.
-    void encadenar(const std::vector<Control*>& controles);
 
     void calcular() override;
     void limpiar() override;
@@ -117,8 +114,9 @@ private:
     void escribirGrupos(ReportWriter& reporte) const;
 
     Integer16 grupos_;
-    BoundedArray<float, 1, 30> areaGrupo_;
-    BoundedArray<float, 1, 30> CGrupo_;
+    static constexpr long capacidadGrupos = 30;
+    SerieSimple areaGrupo_{capacidadGrupos};
+    SerieSimple CGrupo_{capacidadGrupos};
 };
 
 } // namespace caudalera

@@ -6,7 +6,7 @@
 
 namespace caudalera {
 
-AjusteLineal ajusteLineal(const std::vector<Real>& u, const std::vector<Real>& v) {
+AjusteLineal ajusteLineal(std::span<const Real> u, std::span<const Real> v) {
     const Real n = static_cast<double>(u.size());
     Real Su;
     Real Sv;
@@ -30,7 +30,7 @@ AjusteLineal ajusteLineal(const std::vector<Real>& u, const std::vector<Real>& v
     return {vm - pendiente * um, pendiente, r, Pow(r, 2)};
 }
 
-std::vector<Real> logaritmos(const std::vector<Real>& valores) {
+std::vector<Real> logaritmos(std::span<const Real> valores) {
     std::vector<Real> resultado;
     resultado.reserve(valores.size());
     std::transform(valores.begin(), valores.end(), std::back_inserter(resultado), Log);

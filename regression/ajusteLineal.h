@@ -2,6 +2,7 @@
 
 #include "shell/numbers/Real.h"
 
+#include <span>
 #include <vector>
 
 namespace caudalera {
@@ -22,9 +23,9 @@ struct AjusteLineal {
 /// Source: Draper and Smith, Applied Regression Analysis, chapter 1 (normal equations of the
 /// straight line), with the sums about the mean taken from the raw sums, as in
 /// Cuu = sum(u^2) - n * mean(u)^2, and r = Cuv / sqrt(Cvv * Cuu).
-AjusteLineal ajusteLineal(const std::vector<Real>& u, const std::vector<Real>& v);
+AjusteLineal ajusteLineal(std::span<const Real> u, std::span<const Real> v);
 
 /// Natural logarithm of every value; failure 5 for a value of 0 or less.
-std::vector<Real> logaritmos(const std::vector<Real>& valores);
+std::vector<Real> logaritmos(std::span<const Real> valores);
 
 } // namespace caudalera

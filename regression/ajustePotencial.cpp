@@ -4,7 +4,7 @@
 
 namespace caudalera {
 
-SumasLogaritmicas sumasLogaritmicas(const std::vector<TrioIntensidad>& trios) {
+SumasLogaritmicas sumasLogaritmicas(std::span<const TrioIntensidad> trios) {
     SumasLogaritmicas s;
     for (const TrioIntensidad& trio : trios) {
         const Real x1 = Log(trio.T);
@@ -28,7 +28,7 @@ Real AjustePotencial::intensidad(Real T, Real D) const {
     return (K * Pow(T, m)) * Pow(D, n);
 }
 
-std::optional<AjustePotencial> ajustePotencial(const std::vector<TrioIntensidad>& trios) {
+std::optional<AjustePotencial> ajustePotencial(std::span<const TrioIntensidad> trios) {
     const SumasLogaritmicas s = sumasLogaritmicas(trios);
     const auto solucion = gaussJordan(
         {{s.n, s.x1, s.x2, s.y}, {s.x1, s.x1x1, s.x1x2, s.x1y}, {s.x2, s.x1x2, s.x2x2, s.x2y}});

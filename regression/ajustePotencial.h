@@ -3,7 +3,7 @@
 #include "shell/numbers/Real.h"
 
 #include <optional>
-#include <vector>
+#include <span>
 
 namespace caudalera {
 
@@ -29,7 +29,7 @@ struct SumasLogaritmicas {
 };
 
 /// Failure 5 for a value of 0 or less.
-SumasLogaritmicas sumasLogaritmicas(const std::vector<TrioIntensidad>& trios);
+SumasLogaritmicas sumasLogaritmicas(std::span<const TrioIntensidad> trios);
 
 /// The equation Imax = K * T^m * D^n that fits a set of records.
 struct AjustePotencial {
@@ -47,6 +47,6 @@ struct AjustePotencial {
 /// None if their system is singular. Failure 5 if a value is 0 or less, 6 for a K past the double
 /// range. Source: Chow, Maidment and Mays, Applied Hydrology (1988), section 14.2, for the form of
 /// the equation; Draper and Smith, Applied Regression Analysis, for the normal equations.
-std::optional<AjustePotencial> ajustePotencial(const std::vector<TrioIntensidad>& trios);
+std::optional<AjustePotencial> ajustePotencial(std::span<const TrioIntensidad> trios);
 
 } // namespace caudalera

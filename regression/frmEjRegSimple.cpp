@@ -20,7 +20,11 @@ constexpr const char* rotuloEcuacion = "Ecuación:";
 } // namespace
 
 frmEjRegSimple::frmEjRegSimple(Program& program)
-    : Worksheet(program, "frmEjRegSimple", "Cálculos con ecuaciones de Regresión Simple", "Par") {
+    : Worksheet(program, "frmEjRegSimple", "Cálculos con ecuaciones de Regresión Simple", "Par",
+                layoutParesXY()) {
+    columnas = {&X_, &Y_};
+    registrarEntradas({&txtvxx});
+    registrarResultados({&txtvyy});
     bGraficar.onClick = [this] { graficar(); };
     bLimpiarDatos.onClick = [this] { limpiarDatos(); };
     optLineal.onClick = [this] { evaluar(lineal); };
@@ -39,7 +43,6 @@ void frmEjRegSimple::disponer() {
     using Column = MSFlexGrid::ColumnAlignment;
     txtvxx.width = 14;
     txtvyy.width = 14;
-    txtvyy.result = true;
     grdecua.columnWidths = {1500, 4800, 1300, 1300};
     grdecua.columnAlignments = {Column::left, Column::left, Column::center, Column::center};
     grdecua.visibleRows = static_cast<int>(numEcuaciones);
@@ -62,8 +65,7 @@ void frmEjRegSimple::reiniciarResultados() {
 
 void frmEjRegSimple::borrarResultados() {
     reiniciarResultados();
-    txtvxx.setText({});
-    txtvyy.setText({});
+    vaciarCampos();
     lblCalculoY.caption = rotuloEcuacion;
     calculado_ = false;
     Graph1.clear();
@@ -80,29 +82,9 @@ void frmEjRegSimple::trasAccesar() {
 }
 
 void frmEjRegSimple::limpiarDatos() {
-    txtvxx.setText({});
-    txtvyy.setText({});
+    vaciarCampos();
     ecuacionElegida.clear();
     setFocus(txtvxx);
-}
-
-void frmEjRegSimple::leerCuadricula() {
-    n = contarFilas();
-    for (long i = 1; i <= n; ++i) {
-        X_[i] = valorCelda(i, 1);
-        Y_[i] = valorCelda(i, 2);
-    }
-}
-
-Real frmEjRegSimple::elementoSerie(long columna, long i) const {
-    return columna == 1 ? X_[i] : Y_[i];
-}
-
-std::vector<Real> frmEjRegSimple::valores(const Serie250& serie) const {
-    std::vector<Real> lista;
-    for (long i = 1; i <= n; ++i)
-        lista.push_back(serie[i]);
-    return lista;
 }
 
 void frmEjRegSimple::calcular() {
@@ -122,8 +104,8 @@ void frmEjRegSimple::ajustar() {
         calculado_ = true;
         return;
     }
-    const auto x = valores(X_);
-    const auto y = valores(Y_);
+    const auto x = X_.primeros(n);
+    const auto y = Y_.primeros(n);
     const auto lnY = logaritmos(y);
     const AjusteLineal recta = ajusteLineal(x, y);
     const AjusteLineal curvaExponencial = ajusteLineal(x, lnY);
@@ -182,8 +164,7 @@ Real frmEjRegSimple::valorDeY(Ecuacion ecuacion, Real x) const {
 
 void frmEjRegSimple::graficar() {
     leerCuadricula();
-    if (n <= 1) {
-        mensaje(mensajeGraficoDosPuntos, "Error", Icon::error);
+    if (!hayPuntos(n, graficoDeDosPuntos())) {
         setFocus(grdt);
         return;
     }

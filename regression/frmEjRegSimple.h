@@ -1,7 +1,7 @@
 #pragma once
 
 #include "regression/ajusteLineal.h"
-#include "shell/numbers/BoundedArray.h"
+#include "shell/numbers/Serie.h"
 #include "shell/worksheet/DataEntry.h"
 #include "shell/worksheet/Worksheet.h"
 
@@ -36,14 +36,11 @@ protected:
     void limpiar() override;
     void escribirReporte(ReportWriter& reporte) override;
     void reiniciarResultados() override;
-    void leerCuadricula() override;
-    Real elementoSerie(long columna, long i) const override;
     // Here the results go once the file is loaded, so that a load that fails leaves them.
     void antesDeAccesar() override {}
     void trasAccesar() override;
 
 private:
-    using Serie250 = BoundedArray<Real, 1, 250>;
     /// The equations in the order of the rows of `grdecua`.
     enum Ecuacion { lineal, exponencial, potencial, numEcuaciones };
     struct Coeficientes {
@@ -53,8 +50,6 @@ private:
 
     void disponer();
     void ajustar();
-    /// The pairs' values of one column, as the last reading left them.
-    std::vector<Real> valores(const Serie250& serie) const;
     void escribirFila(Ecuacion ecuacion, const AjusteLineal& ajuste);
     std::string textoEcuacion(Ecuacion ecuacion) const;
     void evaluar(Ecuacion ecuacion);
@@ -63,8 +58,9 @@ private:
     void limpiarDatos();
     void borrarResultados();
 
-    Serie250 X_;
-    Serie250 Y_;
+    static constexpr long capacidad = 250;
+    Serie X_{capacidad};
+    Serie Y_{capacidad};
     std::array<Coeficientes, numEcuaciones> coeficientes_;
     bool calculado_ = false;
 };

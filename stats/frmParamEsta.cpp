@@ -16,7 +16,10 @@ constexpr long numParametros = 6;
 
 frmParamEsta::frmParamEsta(Program& program)
     : Worksheet(program, "frmParamEsta",
-                "Cálculo de parámetros estadísticos, comunes y con momentos lineales", "N°") {
+                "Cálculo de parámetros estadísticos, comunes y con momentos lineales", "N°",
+                layoutSerieX()) {
+    columnas = {&serieX};
+    registrarResultados({&txtL1, &txtL2, &txtL3, &txtL4});
     using Column = MSFlexGrid::ColumnAlignment;
     grdParam.columnWidths = {2050, 1750, 1750, 1750};
     grdParam.columnAlignments = {Column::left, Column::center, Column::center, Column::center};
@@ -31,10 +34,8 @@ frmParamEsta::frmParamEsta(Program& program)
 void frmParamEsta::disponer() {
     using namespace layout;
     lblOrdenado.heading = true;
-    for (TextBox* campo : {&txtL1, &txtL2, &txtL3, &txtL4}) {
-        campo->result = true;
+    for (TextBox* campo : {&txtL1, &txtL2, &txtL3, &txtL4})
         campo->width = 14;
-    }
     layout = row({
         ingreso.columna(grdt),
         column({control(grdParam).stretched(),
@@ -52,24 +53,13 @@ void frmParamEsta::reiniciarResultados() {
 
 void frmParamEsta::borrarResultados() {
     reiniciarResultados();
-    for (TextBox* campo : {&txtL1, &txtL2, &txtL3, &txtL4})
-        campo->setText({});
+    vaciarCampos();
     mostrarOrdenados(false);
 }
 
 void frmParamEsta::limpiar() {
     reiniciarCuadricula();
     borrarResultados();
-}
-
-void frmParamEsta::leerCuadricula() {
-    n = contarFilas();
-    for (long i = 1; i <= n; ++i)
-        serieX[i] = valorCelda(i, 1);
-}
-
-Real frmParamEsta::elementoSerie(long /*columna*/, long i) const {
-    return serieX[i];
 }
 
 void frmParamEsta::reiniciarOrdenados(long filas) {
@@ -84,7 +74,7 @@ void frmParamEsta::mostrarOrdenados(bool visibles) {
 
 void frmParamEsta::ordenarSerie() {
     serieOrdenada = serieX;
-    ordenarAscendente(serieOrdenada, n);
+    ordenarAscendente(serieOrdenada.primeros(n));
 }
 
 void frmParamEsta::ordenar() {
@@ -105,11 +95,11 @@ void frmParamEsta::calcular() {
                 Icon::error);
         return;
     }
-    const SumasCentrales sumas = sumasCentrales(serieX, n);
+    const SumasCentrales sumas = sumasCentrales(serieX.primeros(n));
     const ParametrosComunes muestrales = parametrosMuestrales(sumas);
     const ParametrosComunes poblacionales = parametrosPoblacionales(sumas);
     ordenarSerie();
-    const MomentosLineales momentos = momentosLineales(serieOrdenada, n);
+    const MomentosLineales momentos = momentosLineales(serieOrdenada.primeros(n));
     escribirMomentos(momentos);
     escribirParametros(muestrales, poblacionales, momentos);
 }

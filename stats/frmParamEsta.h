@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/numbers/Series.h"
+#include "shell/numbers/momentos.h"
 #include "shell/numbers/parametrosComunes.h"
 #include "shell/worksheet/DataEntry.h"
 #include "shell/worksheet/Worksheet.h"
@@ -28,9 +28,7 @@ protected:
     void limpiar() override;
     void escribirReporte(ReportWriter& reporte) override;
     void reiniciarResultados() override;
-    void leerCuadricula() override;
     void antesDeAccesar() override { borrarResultados(); }
-    Real elementoSerie(long columna, long i) const override;
 
 private:
     void disponer();
@@ -45,8 +43,9 @@ private:
                             const MomentosLineales& momentos);
     void escribirColumna(long columna, const std::vector<std::string>& textos);
 
-    Serie serieX;
-    Serie serieOrdenada;
+    static constexpr long capacidad = 500;
+    Serie serieX{capacidad};
+    Serie serieOrdenada{capacidad};
 };
 
 } // namespace caudalera

@@ -1,43 +1,60 @@
-#include "shell/numbers/Series.h"
+#include "shell/numbers/momentos.h"
+
+#include <cstddef>
+#include <utility>
 
 namespace caudalera {
 
-void ordenarAscendente(Serie& x, long n) {
-    for (long i = 1; i <= n - 1; ++i) {
-        long k = i;
-        for (long j = i; j <= n; ++j) {
+namespace {
+
+Real cuenta(std::span<const Real> x) {
+    return static_cast<double>(x.size());
+}
+
+} // namespace
+
+void ordenarAscendente(std::span<Real> x) {
+    for (std::size_t i = 0; i + 1 < x.size(); ++i) {
+        std::size_t k = i;
+        for (std::size_t j = i; j < x.size(); ++j) {
             if (x[j] < x[k])
                 k = j;
         }
-        const Real temporal = x[i];
-        x[i] = x[k];
-        x[k] = temporal;
+        std::swap(x[i], x[k]);
     }
 }
 
-Real media(const Serie& x, long n) {
+Real media(std::span<const Real> x) {
     Real suma = 0;
-    for (long i = 1; i <= n; ++i)
-        suma += x[i];
-    return suma / Real(static_cast<double>(n));
+    for (const Real valor : x)
+        suma += valor;
+    return suma / cuenta(x);
 }
 
-Real sumaDesvios(const Serie& x, long n, Real centro, int exponente) {
+Real sumaDesvios(std::span<const Real> x, Real centro, int exponente) {
     Real suma = 0;
-    for (long i = 1; i <= n; ++i)
-        suma += Pow(x[i] - centro, exponente);
+    for (const Real valor : x)
+        suma += Pow(valor - centro, exponente);
     return suma;
 }
 
-MomentosLineales momentosLineales(const Serie& ordenada, long n) {
-    const Real total = static_cast<double>(n);
+Real desviacionMuestral(std::span<const Real> x, Real media) {
+    return Sqr(sumaDesvios(x, media, 2) / (cuenta(x) - 1));
+}
+
+Real sesgoMuestral(Real m3, Real n, Real S) {
+    return (Pow(n, 2) * m3) / ((n - 1) * (n - 2) * Pow(S, 3));
+}
+
+MomentosLineales momentosLineales(std::span<const Real> ordenada) {
+    const Real total = cuenta(ordenada);
     Real s1 = 0;
     Real s2 = 0;
     Real s3 = 0;
     Real s4 = 0;
-    for (long m = 1; m <= n; ++m) {
-        const Real x = ordenada[m];
-        const Real i = static_cast<double>(m);
+    Real i = 0;
+    for (const Real x : ordenada) {
+        i += 1;
         const Real c1 = i - 1;
         const Real c2 = c1 * (i - 2) / 2;
         const Real c3 = c2 * (i - 3) / 3;

@@ -1,24 +1,29 @@
 #pragma once
 
-#include "shell/numbers/BoundedArray.h"
 #include "shell/numbers/Real.h"
+
+#include <span>
 
 namespace caudalera {
 
-/// A series of values as most windows hold it: index 1 to 500, of which the first n are in use.
-using Serie = BoundedArray<Real, 1, 500>;
-/// The same with an element 0 in front, where a chart has its origin.
-using SerieConOrigen = BoundedArray<Real, 0, 500>;
+/// Sorts ascending by selection: a strict comparison, and an exchange on every outer pass, so that
+/// equal values keep the places that the exchanges give them.
+void ordenarAscendente(std::span<Real> x);
 
-/// Sorts the first n values ascending by selection: a strict comparison, and an exchange on every
-/// outer pass.
-void ordenarAscendente(Serie& x, long n);
+/// Mean, in the unit of the values; failure 11 without any.
+Real media(std::span<const Real> x);
 
-/// Mean of the first n values, in their unit; failure 11 without any.
-Real media(const Serie& x, long n);
+/// Sum of the powers (x - centro)^exponente.
+Real sumaDesvios(std::span<const Real> x, Real centro, int exponente);
 
-/// Sum of the powers (x - centro)^exponente of the first n values.
-Real sumaDesvios(const Serie& x, long n, Real centro, int exponente);
+/// Standard deviation of a sample about its mean, with divisor n - 1; failure 11 for fewer than two
+/// values.
+Real desviacionMuestral(std::span<const Real> x, Real media);
+
+/// Skew coefficient of a sample of n values, n^2 m3 / ((n - 1)(n - 2) S^3), from their third
+/// central moment with divisor n and their standard deviation; failure 11 for n of 1 or 2 and for S
+/// = 0. Source: Chow, Maidment and Mays, Applied Hydrology (1988), table 11.3.1.
+Real sesgoMuestral(Real m3, Real n, Real S);
 
 /// The first four linear moments, in the unit of the values.
 struct MomentosLineales {
@@ -28,9 +33,9 @@ struct MomentosLineales {
     Real l4;
 };
 
-/// Sample linear moments (Hosking 1990) of n values in ascending order, by the direct estimators of
+/// Sample linear moments (Hosking 1990) of values in ascending order, by the direct estimators of
 /// Wang (1996): every value is weighted by the numbers of ways to draw values below and above it.
-/// Failure 11 for n below 4.
-MomentosLineales momentosLineales(const Serie& ordenada, long n);
+/// Failure 11 for fewer than four values.
+MomentosLineales momentosLineales(std::span<const Real> ordenada);
 
 } // namespace caudalera

@@ -1,16 +1,16 @@
 #include "shell/numbers/parametrosComunes.h"
 
+#include "shell/numbers/momentos.h"
+
 namespace caudalera {
 
-SumasCentrales sumasCentrales(const Serie& x, long n) {
+SumasCentrales sumasCentrales(std::span<const Real> x) {
     SumasCentrales sumas;
-    sumas.n = static_cast<double>(n);
-    sumas.media = media(x, n);
-    sumas.cuadrados = sumaDesvios(x, n, sumas.media, 2);
-    const Real cubos = sumaDesvios(x, n, sumas.media, 3);
-    const Real cuartas = sumaDesvios(x, n, sumas.media, 4);
-    sumas.M3 = cubos / sumas.n;
-    sumas.M4 = cuartas / sumas.n;
+    sumas.n = static_cast<double>(x.size());
+    sumas.media = media(x);
+    sumas.cuadrados = sumaDesvios(x, sumas.media, 2);
+    sumas.M3 = sumaDesvios(x, sumas.media, 3) / sumas.n;
+    sumas.M4 = sumaDesvios(x, sumas.media, 4) / sumas.n;
     return sumas;
 }
 
@@ -21,7 +21,7 @@ ParametrosComunes parametrosMuestrales(const SumasCentrales& sumas) {
     p.varianza = sumas.cuadrados / (n - 1);
     p.desviacion = Sqr(p.varianza);
     p.variacion = p.desviacion / p.media;
-    p.sesgo = (Pow(n, 2) * sumas.M3) / ((n - 1) * (n - 2) * Pow(p.desviacion, 3));
+    p.sesgo = sesgoMuestral(sumas.M3, n, p.desviacion);
     p.curtosis = (Pow(n, 3) * sumas.M4) / ((n - 1) * (n - 2) * (n - 3) * Pow(p.desviacion, 4));
     return p;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "shell/numbers/Series.h"
+#include "shell/numbers/Real.h"
+
+#include <span>
 
 namespace caudalera {
 
@@ -25,7 +27,7 @@ struct SumasCentrales {
 };
 
 /// Failure 11 without values, 6 where a power leaves the double range.
-SumasCentrales sumasCentrales(const Serie& x, long n);
+SumasCentrales sumasCentrales(std::span<const Real> x);
 
 /// Sample parameters: variance with divisor n - 1, skew with (n - 1)(n - 2), kurtosis (3 for a
 /// normal distribution in the limit) with (n - 1)(n - 2)(n - 3). Failure 11 for n below 4, for

@@ -32,7 +32,11 @@ Platform& Window::platform() const {
 }
 
 void Window::mensaje(std::string text, std::string title, Icon icon) const {
-    platform().showMessage({std::move(text), std::move(title), icon});
+    mensaje(Message{std::move(text), std::move(title), icon});
+}
+
+void Window::mensaje(const Message& message) const {
+    platform().showMessage(message);
 }
 
 std::string Window::formatear(Real value, std::string_view mascara) const {

@@ -62,6 +62,7 @@ public:
 protected:
     Platform& platform() const;
     void mensaje(std::string text, std::string title = {}, Icon icon = Icon::none) const;
+    void mensaje(const Message& message) const;
     /// Number formatter with the locale's separator.
     std::string formatear(Real value, std::string_view mascara) const;
     std::string formatear(float value, std::string_view mascara) const;

@@ -32,6 +32,51 @@ void CalculationWindow::mandatoDeArchivo(Button& button) {
     commands[1].buttons.push_back(&button);
 }
 
+void CalculationWindow::registrarResultados(const std::vector<TextBox*>& campos) {
+    for (TextBox* campo : campos)
+        campo->result = true;
+    registrarEntradas(campos);
+}
+
+void CalculationWindow::registrarEntradas(const std::vector<TextBox*>& campos) {
+    camposQueSeVacian_.insert(camposQueSeVacian_.end(), campos.begin(), campos.end());
+}
+
+void CalculationWindow::vaciarCampos() {
+    for (TextBox* campo : camposQueSeVacian_)
+        campo->setText({});
+}
+
+void CalculationWindow::encadenar(const std::vector<Control*>& controles) {
+    for (std::size_t i = 0; i + 1 < controles.size(); ++i) {
+        const auto avanza = [this, siguiente = controles[i + 1]] { setFocus(siguiente); };
+        if (auto* campo = dynamic_cast<TextBox*>(controles[i]))
+            campo->onEnter = avanza;
+        if (auto* lista = dynamic_cast<List*>(controles[i]))
+            lista->onEnter = avanza;
+    }
+}
+
+bool CalculationWindow::exigir(TextBox& campo, const Message& siVacio) {
+    if (!campo.text().empty())
+        return true;
+    mensaje(siVacio);
+    setFocus(campo);
+    return false;
+}
+
+bool CalculationWindow::hayCalculo(bool calculado, const Message& siNo) const {
+    if (!calculado)
+        mensaje(siNo);
+    return calculado;
+}
+
+bool CalculationWindow::hayPuntos(long puntos, const Message& siNo) const {
+    if (puntos <= 1)
+        mensaje(siNo);
+    return puntos > 1;
+}
+
 void CalculationWindow::reporte() {
     program().show("frmPadre");
     conTrampa(

@@ -3,6 +3,8 @@
 #include "shell/report/ReportWriter.h"
 #include "shell/window/Window.h"
 
+#include <vector>
+
 namespace caudalera {
 
 /// What every calculation window has: its command buttons, which stand in the same groups in all of
@@ -26,6 +28,22 @@ protected:
     /// Shows a command behind `bReporte`, among those of files.
     void mandatoDeArchivo(Button& button);
 
+    /// Fields that hold results: they look like it and are emptied with the results.
+    void registrarResultados(const std::vector<TextBox*>& campos);
+    /// Fields that the user fills and that are emptied with the results all the same.
+    void registrarEntradas(const std::vector<TextBox*>& campos);
+    /// Empties the registered fields, in the order in which they were registered.
+    void vaciarCampos();
+
+    /// ENTER takes the focus from each of these to the next.
+    void encadenar(const std::vector<Control*>& controles);
+    /// Whether a field holds a text; if not, the message is shown and the field gets the focus.
+    bool exigir(TextBox& campo, const Message& siVacio);
+    /// The two gates in front of a chart: false, behind its message, if there is no calculation to
+    /// draw, or fewer than two points.
+    bool hayCalculo(bool calculado, const Message& siNo) const;
+    bool hayPuntos(long puntos, const Message& siNo) const;
+
     virtual void calcular() = 0;
     virtual void limpiar() = 0;
     /// The window's own content of the report, behind the title block.
@@ -35,6 +53,8 @@ protected:
 
 private:
     void reporte();
+
+    std::vector<TextBox*> camposQueSeVacian_;
 };
 
 } // namespace caudalera

@@ -1,6 +1,5 @@
 #include "shell/worksheet/Worksheet.h"
 
-#include "shell/text/MonthData.h"
 #include "shell/text/Text.h"
 #include "shell/window/Program.h"
 
@@ -14,13 +13,13 @@ constexpr const char* mascaraAlta = "0.0#######";
 } // namespace
 
 Worksheet::Worksheet(Program& program, std::string name, std::string text, std::string rowHeader,
-                     RowLabels labels)
+                     SeriesLayout seriesLayout)
     : CalculationWindow(program, std::move(name), std::move(text)),
-      layout_(seriesLayout(this->name())), rowHeader_(std::move(rowHeader)), labels_(labels),
+      layout_(std::move(seriesLayout)), rowHeader_(std::move(rowHeader)),
       cdCrear_(FileDialog::Kind::save, "Ubicar directorio y escribir el nombre archivo a crear",
-               std::string(layout_.saveFilter)),
+               layout_.saveFilter),
       cdAccesar_(FileDialog::Kind::open, "Seleccionar el archivo a cargar",
-                 std::string(layout_.openFilter)) {
+                 layout_.filterToOpen()) {
     mnuEdicion.entries = {&mnuEditInsertar, nullptr, &mnuEditEliminar};
     txtt.visible = false;
     grdt.editor = &txtt;
@@ -79,24 +78,39 @@ void Worksheet::reiniciarCuadricula() {
     grdt.reset(2, static_cast<long>(layout_.fields.size()) + 1, 1, 1);
     grdt.setTextMatrix(0, 0, rowHeader_);
     for (std::size_t i = 0; i < layout_.fields.size(); ++i)
-        grdt.setTextMatrix(0, static_cast<long>(i) + 1, std::string(layout_.fields[i]));
-    grdt.setTextMatrix(1, 0, marcadorOtro);
+        grdt.setTextMatrix(0, static_cast<long>(i) + 1, layout_.fields[i]);
+    marcarFilaDeAlta(marcadorOtro);
 }
 
 std::string Worksheet::etiquetaFila(long fila) const {
-    if (labels_ == RowLabels::months)
-        return std::string(mesDeFila(fila));
     return Str(fila);
+}
+
+void Worksheet::renumerarFilas() {
+    for (long fila = 1; fila < filaDeAlta(); ++fila)
+        grdt.setTextMatrix(fila, 0, etiquetaFila(fila));
+}
+
+void Worksheet::marcarFilaDeAlta(const char* marcador) {
+    grdt.setTextMatrix(filaDeAlta(), 0, marcador);
+}
+
+void Worksheet::leerCuadricula() {
+    n = contarFilas();
+    for (long i = 1; i <= n; ++i) {
+        for (std::size_t columna = 0; columna < columnas.size(); ++columna) {
+            const Real valor = valorCelda(i, static_cast<long>(columna) + 1);
+            if (Serie* const* serie = std::get_if<Serie*>(&columnas[columna])) {
+                (**serie)[i] = valor;
+            } else {
+                (*std::get<SerieSimple*>(columnas[columna]))[i] = toSingle(valor);
+            }
+        }
+    }
 }
 
 Real Worksheet::valorCelda(long fila, long columna) const {
     return Val(grdt.TextMatrix(fila, columna));
-}
-
-void Worksheet::numerarFilas(const char* marcador) {
-    for (long fila = 1; fila < filaDeAlta(); ++fila)
-        grdt.setTextMatrix(fila, 0, etiquetaFila(fila));
-    grdt.setTextMatrix(filaDeAlta(), 0, marcador);
 }
 
 void Worksheet::vaciarDatos(long fila) {
@@ -159,7 +173,10 @@ void Worksheet::avanzar() {
     grdt.setRows(grdt.Rows() + 1);
     grdt.setCol(1);
     grdt.setRow(filaDeAlta());
-    numerarFilas(marcadorActual);
+    // The rows above have their labels.
+    grdt.setTextMatrix(fila, 0, etiquetaFila(fila));
+    marcarFilaDeAlta(marcadorActual);
+    trasAgregarFila();
 }
 
 void Worksheet::cambioDeFila() {
@@ -193,13 +210,15 @@ void Worksheet::insertarFila() {
             grdt.setTextMatrix(fila, col, grdt.TextMatrix(fila - 1, col));
     }
     vaciarDatos(grdt.Row());
-    numerarFilas(marcadorOtro);
+    renumerarFilas();
+    marcarFilaDeAlta(marcadorOtro);
 }
 
 void Worksheet::eliminarFila() {
     if (grdt.Row() != filaDeAlta() && grdt.Rows() >= 3) {
         grdt.RemoveItem(grdt.Row());
-        numerarFilas(marcadorOtro);
+        renumerarFilas();
+        marcarFilaDeAlta(marcadorOtro);
     } else {
         reiniciarCuadricula();
     }

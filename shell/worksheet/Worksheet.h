@@ -1,27 +1,26 @@
 #pragma once
 
 #include "shell/numbers/Integer16.h"
+#include "shell/numbers/Serie.h"
 #include "shell/worksheet/CalculationWindow.h"
 #include "shell/worksheet/CommonDialog.h"
-#include "shell/worksheet/SeriesLayouts.h"
+#include "shell/worksheet/SeriesLayout.h"
 
 #include <span>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace caudalera {
 
 /// The template of the calculation windows with a data grid: `grdt` and the box `txtt` that floats
 /// over the cell being edited, inserting and deleting rows, the file commands. The last row of the
-/// grid is always the append row, which is not data. A window supplies its grid reset (headers),
-/// its result reset, the reading of its grid and the elements of its arrays for the file.
+/// grid is always the append row, which is not data. A window hands over how its file lies and the
+/// arrays of its data columns; reading the grid, writing and loading the file follow from that.
 class Worksheet : public CalculationWindow {
 public:
-    /// What the fixed column shows beside data.
-    enum class RowLabels { numbers, months };
-
     Worksheet(Program& program, std::string name, std::string caption, std::string rowHeader,
-              RowLabels labels = RowLabels::numbers);
+              SeriesLayout seriesLayout);
 
     MSFlexGrid grdt{*this, "grdt"};
     TextBox txtt{*this, "txtt"};
@@ -34,7 +33,14 @@ public:
 
     void load() override;
 
+    const SeriesLayout& seriesLayout() const { return layout_; }
+
 protected:
+    /// The array of a data column.
+    using Columna = std::variant<Serie*, SerieSimple*>;
+
+    /// The arrays that the data columns are read into, in the order of the columns.
+    std::vector<Columna> columnas;
     /// Rows of data after the last reading of the grid; holds no reliable value between commands.
     Integer16 n;
 
@@ -44,12 +50,15 @@ protected:
     void reiniciarCuadricula();
     /// Builds each result grid empty with its headers.
     virtual void reiniciarResultados() = 0;
-    /// Sets `n` and fills the arrays with the numeric reading of the cells.
-    virtual void leerCuadricula() = 0;
-    /// Element `i` of the array of a data column (from 1), as the file stores it.
-    virtual Real elementoSerie(long columna, long i) const = 0;
-    /// Text of the fixed cell of a data row.
+    /// Sets `n` and fills the arrays with the numeric reading of the cells, row by row; failure 9
+    /// past their capacity.
+    virtual void leerCuadricula();
+    /// Text of the fixed cell of a data row: its number, where a window gives no other.
     virtual std::string etiquetaFila(long fila) const;
+    /// Labels the data rows anew; the append row keeps its mark.
+    void renumerarFilas();
+    /// A row was completed at the append row.
+    virtual void trasAgregarFila() {}
     /// What a load resets before the dialog opens, and what once the file is in the grid.
     virtual void antesDeAccesar() { reiniciarResultados(); }
     virtual void trasAccesar() {}
@@ -68,7 +77,7 @@ private:
     static constexpr const char* marcadorActual = "[->]";
     static constexpr const char* marcadorOtro = "[?]";
 
-    void numerarFilas(const char* marcador);
+    void marcarFilaDeAlta(const char* marcador);
     void avanzar();
     void cambioDeFila();
     void empezarEdicion(char32_t codigo);
@@ -85,10 +94,11 @@ private:
     void cargar();
     void cargarRegistros(class SeriesFile& archivo);
     void vaciarDatos(long fila);
+    /// Elements i of the data columns, as the file stores them.
+    std::vector<float> registroDe(long i) const;
 
-    const SeriesLayout& layout_;
+    SeriesLayout layout_;
     std::string rowHeader_;
-    RowLabels labels_;
     CommonDialog cdCrear_;
     CommonDialog cdAccesar_;
 };

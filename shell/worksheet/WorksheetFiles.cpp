@@ -16,21 +16,26 @@ std::vector<float> enSimple(const std::vector<Real>& valores) {
 
 } // namespace
 
+std::vector<float> Worksheet::registroDe(long i) const {
+    std::vector<float> registro;
+    registro.reserve(columnas.size());
+    for (const Columna& columna : columnas)
+        registro.push_back(
+            std::visit([i](const auto* serie) { return toSingle(Real((*serie)[i])); }, columna));
+    return registro;
+}
+
 void Worksheet::crear() {
     Variables& variables = program().variables;
     conTrampa(
         [&] {
             variables.nombreArchivo = cdCrear_.show(platform());
             leerCuadricula();
-            const auto columnas = static_cast<long>(layout_.fields.size());
-            SeriesFile archivo(variables, variables.nombreArchivo, static_cast<int>(columnas),
+            SeriesFile archivo(variables, variables.nombreArchivo,
+                               static_cast<int>(layout_.fields.size()),
                                SeriesFile::Access::replace);
-            std::vector<Real> registro(layout_.fields.size());
-            for (long i = 1; i <= n; ++i) {
-                for (long col = 1; col <= columnas; ++col)
-                    registro[static_cast<std::size_t>(col - 1)] = elementoSerie(col, i);
-                archivo.write(enSimple(registro));
-            }
+            for (long i = 1; i <= n; ++i)
+                archivo.write(registroDe(i));
             if (layout_.lastRecord)
                 archivo.write(enSimple(ultimoRegistro()));
             archivo.close();
@@ -68,7 +73,7 @@ void Worksheet::cargar() {
     variables.numRegistros = archivo.records();
     cargarRegistros(archivo);
     archivo.close();
-    grdt.setTextMatrix(filaDeAlta(), 0, marcadorActual);
+    marcarFilaDeAlta(marcadorActual);
     grdt.setCol(1);
     grdt.setRow(filaDeAlta());
     n = contarFilas();
@@ -89,8 +94,11 @@ void Worksheet::cargarRegistros(SeriesFile& archivo) {
                                formatear(static_cast<float>(valor.value()), layout_.mask));
         }
     }
-    if (layout_.lastRecord)
-        recibirUltimoRegistro(archivo.read());
+    if (!layout_.lastRecord)
+        return;
+    recibirUltimoRegistro(archivo.read());
+    // The record may have brought what the labels count from.
+    renumerarFilas();
 }
 
 } // namespace caudalera

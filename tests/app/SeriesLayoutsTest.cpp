@@ -1,7 +1,12 @@
-#include "shell/worksheet/SeriesLayouts.h"
+// How the rows of every window lie in its file, against a table of all of them.
 
+#include "shell/worksheet/Worksheet.h"
+#include "tests/support/WindowTest.h"
+
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -11,7 +16,7 @@ namespace {
 struct Row {
     std::string_view window;
     int bytes;
-    std::vector<std::string_view> fields;
+    std::vector<std::string> fields;
     bool lastRecord;
     std::string_view saveFilter;
     std::string_view openFilter;
@@ -128,31 +133,31 @@ const std::vector<Row> table = {
      "Cuartetos valores XS,Y|*.XSY"},
 };
 
-TEST(SeriesLayouts, EveryWindowHasItsRow) {
-    ASSERT_EQ(table.size(), 32U);
-    ASSERT_EQ(seriesLayouts().size(), table.size());
-    for (const Row& row : table) {
-        const SeriesLayout& layout = seriesLayout(row.window);
-        EXPECT_EQ(layout.window, row.window);
-        EXPECT_EQ(layout.recordBytes(), row.bytes) << row.window;
-        EXPECT_EQ(layout.fields, row.fields) << row.window;
-        EXPECT_EQ(layout.lastRecord, row.lastRecord) << row.window;
-        EXPECT_EQ(layout.saveFilter, row.saveFilter) << row.window;
-        EXPECT_EQ(layout.openFilter, row.openFilter) << row.window;
-    }
-}
+class SeriesLayoutsTest : public WindowTest {};
 
-TEST(SeriesLayouts, LoadedValuesTakeTheCommonMaskButForThreeWindows) {
+TEST_F(SeriesLayoutsTest, EveryWindowWithADataGridHasItsRow) {
+    ASSERT_EQ(table.size(), 32U);
     const std::set<std::string_view> temperatures = {"frmThornthwaite", "frmBlaneyCriddle",
                                                      "frmBalanceHidro"};
-    for (const SeriesLayout& layout : seriesLayouts()) {
-        EXPECT_EQ(layout.mask, temperatures.contains(layout.window) ? "0.0#" : "#0.0#######")
-            << layout.window;
+    int checked = 0;
+    for (const WindowEntry& entry : ventanas()) {
+        const auto* sheet = dynamic_cast<Worksheet*>(&open(std::string(entry.name)));
+        const auto row = std::find_if(table.begin(), table.end(),
+                                      [&](const Row& each) { return each.window == entry.name; });
+        ASSERT_EQ(sheet != nullptr, row != table.end()) << entry.name;
+        if (!sheet)
+            continue;
+        const SeriesLayout& layout = sheet->seriesLayout();
+        EXPECT_EQ(layout.recordBytes(), row->bytes) << entry.name;
+        EXPECT_EQ(layout.fields, row->fields) << entry.name;
+        EXPECT_EQ(layout.lastRecord, row->lastRecord) << entry.name;
+        EXPECT_EQ(layout.saveFilter, row->saveFilter) << entry.name;
+        EXPECT_EQ(layout.filterToOpen(), row->openFilter) << entry.name;
+        EXPECT_EQ(layout.mask, temperatures.contains(entry.name) ? "0.0#" : "#0.0#######")
+            << entry.name;
+        ++checked;
     }
-}
-
-TEST(SeriesLayouts, AWindowWithoutAGridHasNone) {
-    EXPECT_THROW((void)seriesLayout("frmPenman"), std::logic_error);
+    EXPECT_GE(checked, 4);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The two normal routines against printed tables and the errors that their source states.
 
-#include "fitting/normal.h"
+#include "fitting/aproximacionNormal.h"
 #include "tests/shell/numbers/FailureNumber.h"
 
 #include <cmath>

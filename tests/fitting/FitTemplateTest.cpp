@@ -2,6 +2,7 @@
 // in which order it is asked, and the window with one kind of moments.
 
 #include "fitting/FitWorksheet.h"
+#include "shell/numbers/Serie.h"
 #include "tests/support/WindowTest.h"
 
 namespace caudalera::testing {
@@ -16,8 +17,6 @@ FitTexts textsOf(bool momentosLineales) {
     texts.guionesParametros = 60;
     texts.encabezados = {"Z", "F(Z)"};
     texts.titulosReporte = {"           Z  ", "             F(Z)  ", "            Delta "};
-    texts.leyendas = momentosLineales ? std::vector<std::string_view>{"Teo", "Ord", "ML"}
-                                      : std::vector<std::string_view>{"Exp", "Teo"};
     texts.mascaraPeriodo = "###0.0";
     texts.mascaraProbabilidad = "###.0#";
     texts.mascaraTeorico = "#####0.0####";
@@ -29,18 +28,17 @@ FitTexts textsOf(bool momentosLineales) {
 const FitTexts twoKinds = textsOf(true);
 const FitTexts oneKind = textsOf(false);
 
-/// A distribution whose answers the test sets. It keeps the name of a window that has a file
-/// layout, and notes the steps that it is asked for.
+/// A distribution whose answers the test sets. It notes the steps that it is asked for.
 class ProbeFit : public FitWorksheet {
 public:
     ProbeFit(Program& program, const FitTexts& texts)
-        : FitWorksheet(program, "frmDisNormal", "Prueba", texts) {
+        : FitWorksheet(program, "frmPrueba", "Prueba", texts) {
         ordinarios = {{&first, &txtuno, "Uno= "}};
         if (texts.momentosLineales) {
             lineales = {{&second, &txtdos, "Dos= "}};
         } else {
-            columnas = {&variate, &acumOrdinaria};
-            curvas = {&probEmpirica, &acumOrdinaria};
+            columnasDeAjuste = {&reducidaOrdinaria, &acumOrdinaria};
+            curvas = {{&probEmpirica, "Exp"}, {&acumOrdinaria, "Teo"}};
         }
         disponer(layout::fields({txtuno, txtdos}));
         load();
@@ -61,6 +59,7 @@ public:
     std::vector<std::string> steps;
 
 protected:
+    void alEmpezar() override { steps.emplace_back("empezar"); }
     bool admitirSerie() override {
         steps.push_back("serie " + textOf(serieDatos));
         return acceptSeries;
@@ -73,17 +72,16 @@ protected:
         steps.emplace_back("parámetros");
         first = 1.5;
         second = 2.25;
+        fitting = true;
+        ranks = {};
     }
-    void calcularAcumuladas() override {
-        steps.push_back("acumuladas " + txtuno.text());
-        for (long m = 1; m <= conteoDatos; ++m) {
-            const auto i = static_cast<std::size_t>(m - 1);
-            variate[m] = -0.5;
-            acumOrdinaria[m] = ordinary.at(i);
-            acumLineal[m] = linear.empty() ? 0 : linear.at(i);
-        }
+    void trasReducir(Momentos tipo, std::span<const Real> reducidas) override {
+        steps.push_back(std::string("reducidas ") +
+                        (tipo == Momentos::lineales ? "lineales " : "ordinarias ") +
+                        std::to_string(reducidas.size()) + txtuno.text());
     }
     void antesDelAjuste() override {
+        fitting = false;
         steps.push_back("antes " + txtuno.text());
         lblmensaje.caption = verdictBefore;
     }
@@ -101,10 +99,16 @@ protected:
                         formatear(q, "0.0"));
         return acceptFlow;
     }
-    Real acumulada(Momentos tipo, Real q) override {
-        return tipo == Momentos::lineales ? q / 1000 : q / 100;
+    Real reducir(Momentos /*tipo*/, Real q) override { return fitting ? -0.5 : q; }
+    Real probabilidad(Momentos tipo, Real reducida) override {
+        const bool isLinear = tipo == Momentos::lineales;
+        if (!fitting)
+            return isLinear ? reducida / 1000 : reducida / 100;
+        if (isLinear)
+            return linear.empty() ? 0 : linear.at(ranks[1]++);
+        return ordinary.at(ranks[0]++);
     }
-    Real inversa(Momentos tipo, Real p) override {
+    Real cuantil(Momentos tipo, Real p) override {
         return tipo == Momentos::lineales ? 1000 * p : 100 * p;
     }
 
@@ -116,7 +120,9 @@ private:
         return joined;
     }
 
-    SerieConOrigen variate;
+    /// Between the parameters and the test, with the ranks asked for so far.
+    bool fitting = false;
+    std::array<std::size_t, 2> ranks{};
     Real first;
     Real second;
 };
@@ -138,8 +144,9 @@ TEST_F(FitTemplate, OrderOfTheSteps) {
     ProbeFit probe(program, twoKinds);
     probe.ordinary = {0.2, 0.4};
     fit(probe, {"3", "1"});
-    EXPECT_EQ(probe.steps, (Steps{"serie 3. 1. ", "ordenada 1. 3. ", "parámetros", "acumuladas ",
-                                  "antes 1.5", "tras"}));
+    EXPECT_EQ(probe.steps,
+              (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. ", "parámetros",
+                     "reducidas ordinarias 2", "reducidas lineales 2", "antes 1.5", "tras"}));
     EXPECT_EQ(probe.txtdos.text(), "2.25");
 }
 
@@ -147,12 +154,12 @@ TEST_F(FitTemplate, RefusedSeriesEndsTheCommandWithNothingChanged) {
     ProbeFit probe(program, twoKinds);
     probe.acceptSeries = false;
     fit(probe, {"3", "1"});
-    EXPECT_EQ(probe.steps, Steps{"serie 3. 1. "});
+    EXPECT_EQ(probe.steps, (Steps{"empezar", "serie 3. 1. "}));
     probe.acceptSeries = true;
     probe.acceptSorted = false;
     probe.steps.clear();
     program.click(probe.bCalcular);
-    EXPECT_EQ(probe.steps, (Steps{"serie 3. 1. ", "ordenada 1. 3. "}));
+    EXPECT_EQ(probe.steps, (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. "}));
     EXPECT_EQ(probe.txtuno.text(), "");
     EXPECT_EQ(probe.lblAjuste.caption, "Ajuste:");
     EXPECT_TRUE(messages().empty());
@@ -191,8 +198,8 @@ TEST_F(FitTemplate, VerdictReplacesAnEarlierMessageAndIsReplacedByALaterOne) {
 TEST_F(FitTemplate, FailureShowsTheWindowsOwnMessageAndStopsWhereItStands) {
     ProbeFit probe(program, twoKinds);
     probe.verdictBefore = "antes";
-    // No data: the largest delta of none is that of the unused first element, and the division by
-    // the root of 0 fails behind the fields.
+    // No data: the largest delta of none is 0, and the division by the root of 0 fails behind the
+    // fields.
     program.click(probe.bCalcular);
     EXPECT_EQ(messages(),
               (std::vector<Message>{{"Fallo propio", "Mensaje de error", Icon::information}}));

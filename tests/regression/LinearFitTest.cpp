@@ -48,8 +48,12 @@ TEST(LinearFit, ReachesTheCertifiedValuesOfNorris) {
     EXPECT_NEAR(line.r.value(), std::sqrt(0.999993745883712), 1e-11);
 }
 
+AjusteLineal fit(const std::vector<Real>& u, const std::vector<Real>& v) {
+    return ajusteLineal(u, v);
+}
+
 TEST(LinearFit, FindsALineExactly) {
-    const AjusteLineal line = ajusteLineal({-1, 0, 1, 2}, {5, 3, 1, -1});
+    const AjusteLineal line = fit({-1, 0, 1, 2}, {5, 3, 1, -1});
     EXPECT_DOUBLE_EQ(line.intercepto.value(), 3);
     EXPECT_DOUBLE_EQ(line.pendiente.value(), -2);
     EXPECT_DOUBLE_EQ(line.r.value(), -1);
@@ -58,7 +62,7 @@ TEST(LinearFit, FindsALineExactly) {
 
 // Means 0 and 1, Cuu = 2, Cvv = 9 - 3 = 6, Cuv = -2 + 2 = 0.
 TEST(LinearFit, HasNoSlopeWithoutCorrelation) {
-    const AjusteLineal line = ajusteLineal({-1, 0, 1}, {2, -1, 2});
+    const AjusteLineal line = fit({-1, 0, 1}, {2, -1, 2});
     EXPECT_EQ(line.intercepto, 1);
     EXPECT_EQ(line.pendiente, 0);
     EXPECT_EQ(line.r, 0);
@@ -74,13 +78,13 @@ TEST(LinearFit, FailsOnDataWithoutSpread) {
 }
 
 TEST(LinearFit, TakesLogarithmsOfPositiveValuesOnly) {
-    const auto logs = logaritmos({1, 2});
+    const auto logs = logaritmos(std::vector<Real>{1, 2});
     ASSERT_EQ(logs.size(), 2U);
     EXPECT_EQ(logs[0], 0);
     EXPECT_DOUBLE_EQ(logs[1].value(), 0.693147180559945309);
     for (const double bad : {0.0, -1.0}) {
         try {
-            logaritmos({1, bad});
+            logaritmos(std::vector<Real>{1, bad});
             FAIL() << bad;
         } catch (const RuntimeFailure& failure) {
             EXPECT_EQ(failure.failure(), Failure::invalidArgument);

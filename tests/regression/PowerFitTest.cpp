@@ -42,16 +42,20 @@ TEST(PowerFit, FindsTheConstantsOfRecordsOnTheSurface) {
     }
 }
 
+std::optional<AjustePotencial> fitOf(const std::vector<TrioIntensidad>& trios) {
+    return ajustePotencial(trios);
+}
+
 // With the logarithms of T and D at -1 and 1 (values 1/e and e) the system is diagonal:
 // lnK = mean of y, m = sum(x1 y) / 4, n = sum(x2 y) / 4. For y = 1, 2, 4, 9 in the order
 // (-,-), (-,+), (+,-), (+,+): lnK = 16 / 4 = 4, m = (-1 - 2 + 4 + 9) / 4 = 2.5,
 // n = (-1 + 2 - 4 + 9) / 4 = 1.5. The residuals are 1 - 0 = 1, 2 - 3 = -1, 4 - 5 = -1, 9 - 8 = 1.
 TEST(PowerFit, TakesTheLeastSquaresOfTheLogarithms) {
     const double e = std::exp(1.0);
-    const auto fit = ajustePotencial({{1 / e, 1 / e, std::exp(1.0)},
-                                      {1 / e, e, std::exp(2.0)},
-                                      {e, 1 / e, std::exp(4.0)},
-                                      {e, e, std::exp(9.0)}});
+    const auto fit = fitOf({{1 / e, 1 / e, std::exp(1.0)},
+                            {1 / e, e, std::exp(2.0)},
+                            {e, 1 / e, std::exp(4.0)},
+                            {e, e, std::exp(9.0)}});
     ASSERT_TRUE(fit.has_value());
     EXPECT_NEAR(fit->lnK.value(), 4, 1e-14);
     EXPECT_NEAR(fit->K.value(), 54.598150033144239, 1e-12); // e^4
@@ -72,8 +76,8 @@ TEST(PowerFit, TakesTheLeastSquaresOfTheLogarithms) {
 
 // ln 1 = 0 leaves the column of T (or of D) without any pivot, exactly.
 TEST(PowerFit, RecordsOfOneReturnPeriodOfOneYearAreSingular) {
-    EXPECT_FALSE(ajustePotencial({{1, 10, 90}, {1, 20, 70}, {1, 30, 60}, {1, 60, 40}}).has_value());
-    EXPECT_FALSE(ajustePotencial({{2, 1, 90}, {5, 1, 95}, {10, 1, 99}, {25, 1, 120}}).has_value());
+    EXPECT_FALSE(fitOf({{1, 10, 90}, {1, 20, 70}, {1, 30, 60}, {1, 60, 40}}).has_value());
+    EXPECT_FALSE(fitOf({{2, 1, 90}, {5, 1, 95}, {10, 1, 99}, {25, 1, 120}}).has_value());
 }
 
 TEST(PowerFit, AValueOfZeroOrLessFailsInItsLogarithm) {

@@ -1,13 +1,25 @@
 #include "tests/support/TestSheet.h"
 
+#include "shell/text/MonthData.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace caudalera {
 
-TestSheet::TestSheet(Program& program, const std::string& name, RowLabels labels)
-    : Worksheet(program, name, rotulo, "Nº", labels),
-      registroFinal(seriesLayout(name).fields.size()),
-      series_(seriesLayout(name).fields.size() + 1) {}
+TestSheet::TestSheet(Program& program, const std::string& name, SeriesLayout filas,
+                     Etiquetas etiquetas)
+    : Worksheet(program, name, rotulo, "Nº", std::move(filas)),
+      registroFinal(seriesLayout().fields.size()),
+      series_(seriesLayout().fields.size(), Serie(capacidad)), etiquetas_(etiquetas) {
+    for (Serie& serie : series_)
+        columnas.emplace_back(&serie);
+}
+
+std::string TestSheet::etiquetaFila(long fila) const {
+    return etiquetas_ == Etiquetas::meses ? std::string(mesDeFila(fila))
+                                          : Worksheet::etiquetaFila(fila);
+}
 
 void TestSheet::calcular() {
     pasos.emplace_back("calcular");
@@ -43,15 +55,7 @@ void TestSheet::leerCuadricula() {
     pasos.emplace_back("leerCuadricula");
     if (falloAlLeer)
         throw RuntimeFailure(*falloAlLeer);
-    n = contarFilas();
-    for (long i = 1; i <= n; ++i) {
-        for (long col = 1; col < grdt.Cols(); ++col)
-            series_[static_cast<std::size_t>(col)][i] = valorCelda(i, col);
-    }
-}
-
-Real TestSheet::elementoSerie(long columna, long i) const {
-    return valor(columna, i);
+    Worksheet::leerCuadricula();
 }
 
 void TestSheet::trasAccesar() {
@@ -66,35 +70,49 @@ void TestSheet::recibirUltimoRegistro(std::span<const float> registro) {
 
 namespace {
 
-/// The name is the template's argument, so that each entry is a plain function.
-template <std::size_t Size>
-struct Name {
-    char text[Size]{};
-    constexpr Name(const char (&name)[Size]) { std::copy_n(name, Size, text); }
-};
+SeriesLayout uno() {
+    return {{"X"}, "Valores uno|*.U", "Abrir uno|*.U"};
+}
+SeriesLayout dos() {
+    return {{"X", "Y"}, "Valores dos|*.D"};
+}
+SeriesLayout tres() {
+    return {{"X1", "X2", "Y"}, "Valores tres|*.T"};
+}
+SeriesLayout cuatro() {
+    return {{"X1", "X2", "X3", "Y"}, "Valores cuatro|*.C"};
+}
+SeriesLayout conUltimo(SeriesLayout layout) {
+    layout.lastRecord = true;
+    return layout;
+}
+SeriesLayout conMascara() {
+    SeriesLayout layout = uno();
+    layout.mask = "0.0#";
+    return layout;
+}
 
-template <Name name, Worksheet::RowLabels labels = Worksheet::RowLabels::numbers>
-WindowEntry entry() {
-    static constexpr Name stored = name;
-    return {stored.text, [](Program& program) -> std::unique_ptr<Window> {
-                return std::make_unique<TestSheet>(program, stored.text, labels);
-            }};
+using Etiquetas = TestSheet::Etiquetas;
+
+std::unique_ptr<Window> hoja(Program& program, const char* name, SeriesLayout layout,
+                             Etiquetas etiquetas = Etiquetas::numeros) {
+    return std::make_unique<TestSheet>(program, name, std::move(layout), etiquetas);
 }
 
 } // namespace
 
 const std::vector<WindowEntry>& ventanasDePrueba() {
-    constexpr auto months = Worksheet::RowLabels::months;
     static const std::vector<WindowEntry> entries = withProgramWindows({
-        entry<"frmParamEsta">(),
-        entry<"frmRegreLineal">(),
-        entry<"frmRegMul2Var">(),
-        entry<"frmRegMul3Var">(),
-        entry<"frmVariacionEsta", months>(),
-        entry<"frmQmaxNash">(),
-        entry<"frmIsoyeta">(),
-        entry<"frmAforoCorren">(),
-        entry<"frmThornthwaite", months>(),
+        {"hojaUno", [](Program& p) { return hoja(p, "hojaUno", uno()); }},
+        {"hojaDos", [](Program& p) { return hoja(p, "hojaDos", dos()); }},
+        {"hojaTres", [](Program& p) { return hoja(p, "hojaTres", tres()); }},
+        {"hojaCuatro", [](Program& p) { return hoja(p, "hojaCuatro", cuatro()); }},
+        {"hojaMeses", [](Program& p) { return hoja(p, "hojaMeses", uno(), Etiquetas::meses); }},
+        {"hojaMascara",
+         [](Program& p) { return hoja(p, "hojaMascara", conMascara(), Etiquetas::meses); }},
+        {"hojaUltimoUno", [](Program& p) { return hoja(p, "hojaUltimoUno", conUltimo(uno())); }},
+        {"hojaUltimoDos", [](Program& p) { return hoja(p, "hojaUltimoDos", conUltimo(dos())); }},
+        {"hojaUltimoTres", [](Program& p) { return hoja(p, "hojaUltimoTres", conUltimo(tres())); }},
     });
     return entries;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "shell/numbers/BoundedArray.h"
 #include "shell/worksheet/Worksheet.h"
 #include "tests/support/WindowTest.h"
 
@@ -10,14 +9,15 @@
 
 namespace caudalera {
 
-/// The template alone, as a worksheet with the layout of the window whose name it takes: columns,
-/// filters and the last record of its file come from there.
+/// The template alone, as a worksheet with a layout of its own.
 class TestSheet : public Worksheet {
 public:
     static constexpr long capacidad = 20;
     static constexpr const char* rotulo = "Hoja de prueba";
 
-    TestSheet(Program& program, const std::string& name, RowLabels labels);
+    enum class Etiquetas { numeros, meses };
+
+    TestSheet(Program& program, const std::string& name, SeriesLayout filas, Etiquetas etiquetas);
 
     MSFlexGrid grdres{*this, "grdres"};
     TextBox txtres{*this, "txtres", "Media", "m"};
@@ -41,7 +41,9 @@ public:
     std::optional<Failure> falloTrasAccesar;
 
     using Worksheet::n;
-    Real valor(long columna, long i) const { return series_[static_cast<std::size_t>(columna)][i]; }
+    Real valor(long columna, long i) const {
+        return series_[static_cast<std::size_t>(columna - 1)][i];
+    }
 
 protected:
     /// Mean of the first column, by "0.##00".
@@ -50,17 +52,19 @@ protected:
     void escribirReporte(ReportWriter& reporte) override;
     void reiniciarResultados() override;
     void leerCuadricula() override;
-    Real elementoSerie(long columna, long i) const override;
+    std::string etiquetaFila(long fila) const override;
     void trasAccesar() override;
     std::vector<Real> ultimoRegistro() const override { return registroFinal; }
     void recibirUltimoRegistro(std::span<const float> registro) override;
 
 private:
-    std::vector<BoundedArray<Real, 1, capacidad>> series_;
+    std::vector<Serie> series_;
+    Etiquetas etiquetas_;
 };
 
-/// The windows of these tests: worksheets of one, two, three and four columns, one with months and
-/// those with a last record.
+/// The windows of these tests: worksheets of one, two, three and four columns ("hojaUno" to
+/// "hojaCuatro"), with months ("hojaMeses", and "hojaMascara" with a mask of its own) and with a
+/// last record ("hojaUltimoUno" to "hojaUltimoTres").
 const std::vector<WindowEntry>& ventanasDePrueba();
 
 /// A program that opens the windows of these tests; `sheet` loads one.
@@ -68,7 +72,7 @@ class SheetTest : public WindowTest {
 protected:
     SheetTest() : WindowTest(ventanasDePrueba()) {}
 
-    TestSheet& sheet(const std::string& name = "frmRegMul2Var") {
+    TestSheet& sheet(const std::string& name = "hojaTres") {
         return dynamic_cast<TestSheet&>(open(name));
     }
     /// Fixed column of `grdt` from row 1 on, joined by '|'.

@@ -10,16 +10,11 @@
 namespace caudalera::testing {
 namespace {
 
-struct Sample {
-    Serie x;
-    long n = 0;
-};
-
-Sample sample(const std::vector<std::string>& texts) {
-    Sample s;
+std::vector<Real> sample(const std::vector<std::string>& texts) {
+    std::vector<Real> x;
     for (const std::string& each : texts)
-        s.x[++s.n] = std::stod(each);
-    return s;
+        x.emplace_back(std::stod(each));
+    return x;
 }
 
 /// Correct digits: minus the decimal logarithm of the relative error, 15 if there is none.
@@ -42,8 +37,8 @@ class Nist : public ::testing::TestWithParam<Certified> {};
 // digits; the textbook formula with the sum of the squares would keep 8.
 TEST_P(Nist, MeanAndDeviation) {
     const Certified& set = GetParam();
-    const Sample s = sample(publishedSeries(set.name));
-    const SumasCentrales sums = sumasCentrales(s.x, s.n);
+    const std::vector<Real> s = sample(publishedSeries(set.name));
+    const SumasCentrales sums = sumasCentrales(s);
     const Real deviation = Sqr(sums.cuadrados / (sums.n - 1));
     EXPECT_GE(digits(sums.media, set.mean), 14);
     EXPECT_GE(digits(deviation, set.deviation), set.deviationDigits);
@@ -60,8 +55,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 // 1, 2, 3, 10 by hand: S2 = 50, M3 = 45, M4 = 348.5 about the mean 4.
 TEST(Comunes, CentralSums) {
-    const Sample s = sample({"10", "1", "3", "2"});
-    const SumasCentrales sums = sumasCentrales(s.x, s.n);
+    const std::vector<Real> s = sample({"10", "1", "3", "2"});
+    const SumasCentrales sums = sumasCentrales(s);
     EXPECT_EQ(sums.media.value(), 4);
     EXPECT_EQ(sums.cuadrados.value(), 50);
     EXPECT_EQ(sums.M3.value(), 45);
@@ -69,8 +64,8 @@ TEST(Comunes, CentralSums) {
 }
 
 TEST(Comunes, SampleAndPopulationDifferInTheirDivisors) {
-    const Sample s = sample({"1", "2", "3", "10"});
-    const SumasCentrales sums = sumasCentrales(s.x, s.n);
+    const std::vector<Real> s = sample({"1", "2", "3", "10"});
+    const SumasCentrales sums = sumasCentrales(s);
     const ParametrosComunes a = parametrosMuestrales(sums);
     const ParametrosComunes b = parametrosPoblacionales(sums);
     EXPECT_DOUBLE_EQ(a.varianza.value(), 50.0 / 3);
@@ -83,8 +78,8 @@ TEST(Comunes, SampleAndPopulationDifferInTheirDivisors) {
 }
 
 TEST(Comunes, PopulationNeedsOnlyTwoDifferentValues) {
-    const Sample s = sample({"1", "3"});
-    const ParametrosComunes p = parametrosPoblacionales(sumasCentrales(s.x, s.n));
+    const std::vector<Real> s = sample({"1", "3"});
+    const ParametrosComunes p = parametrosPoblacionales(sumasCentrales(s));
     EXPECT_EQ(p.varianza.value(), 1);
     EXPECT_EQ(p.sesgo.value(), 0);
     EXPECT_EQ(p.curtosis.value(), 1);
@@ -93,8 +88,8 @@ TEST(Comunes, PopulationNeedsOnlyTwoDifferentValues) {
 TEST(Comunes, FailuresByTheirNumbers) {
     const auto ofSample = [](const std::vector<std::string>& texts) {
         return failureNumber([&] {
-            const Sample s = sample(texts);
-            parametrosMuestrales(sumasCentrales(s.x, s.n));
+            const std::vector<Real> s = sample(texts);
+            parametrosMuestrales(sumasCentrales(s));
         });
     };
     EXPECT_EQ(ofSample({}), 11);

@@ -1,34 +1,28 @@
 // Selection sort and linear moments against other ways to get them.
 
-#include "shell/numbers/Series.h"
+#include "shell/numbers/momentos.h"
 #include "tests/shell/numbers/FailureNumber.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
 namespace caudalera::testing {
 namespace {
 
-Serie seriesOf(const std::vector<double>& values) {
-    Serie x;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        x[static_cast<long>(i) + 1] = values[i];
-    return x;
+std::vector<Real> seriesOf(const std::vector<double>& values) {
+    return {values.begin(), values.end()};
 }
 
-std::vector<double> firstOf(const Serie& x, long n) {
-    std::vector<double> values;
-    for (long i = 1; i <= n; ++i)
-        values.push_back(x[i].value());
-    return values;
-}
-
-std::vector<double> sorted(std::vector<double> values) {
-    Serie x = seriesOf(values);
-    ordenarAscendente(x, static_cast<long>(values.size()));
-    return firstOf(x, static_cast<long>(values.size()));
+std::vector<double> sorted(const std::vector<double>& values) {
+    std::vector<Real> x = seriesOf(values);
+    ordenarAscendente(x);
+    std::vector<double> result;
+    for (const Real value : x)
+        result.push_back(value.value());
+    return result;
 }
 
 TEST(SeriesSort, AgreesWithTheLibrarysSort) {
@@ -49,16 +43,23 @@ TEST(SeriesSort, FullCapacity) {
     EXPECT_EQ(mine, values);
 }
 
-TEST(SeriesSort, LeavesWhatStandsBehindTheSeries) {
-    Serie x = seriesOf({3, 2, 1, 0});
-    ordenarAscendente(x, 3);
-    EXPECT_EQ(firstOf(x, 4), (std::vector<double>{1, 2, 3, 0}));
+TEST(SeriesMean, OfTheValuesAndFailure11OfNone) {
+    EXPECT_EQ(media(seriesOf({1, 2, 6})).value(), 3);
+    EXPECT_EQ(failureNumber([] { media({}); }), 11);
 }
 
-TEST(SeriesMean, OfTheFirstValuesAndFailure11OfNone) {
-    EXPECT_EQ(media(seriesOf({1, 2, 6, 100}), 3).value(), 3);
-    EXPECT_EQ(failureNumber([] { media(Serie(), 0); }), 11);
-    EXPECT_EQ(failureNumber([] { media(Serie(), 501); }), 9);
+// 1, 2, 6: deviations -2, -1, 3 from the mean 3, squares 14, cubes 18.
+TEST(SampleStatistics, DeviationAndSkewByHand) {
+    const auto x = seriesOf({1, 2, 6});
+    EXPECT_EQ(sumaDesvios(x, 3, 2).value(), 14);
+    EXPECT_EQ(sumaDesvios(x, 3, 3).value(), 18);
+    const Real S = desviacionMuestral(x, 3);
+    EXPECT_DOUBLE_EQ(S.value(), std::sqrt(7.0));
+    // n^2 m3 / ((n - 1)(n - 2) S^3) = 9 * 6 / (2 * 1 * 7 * sqrt(7)).
+    EXPECT_DOUBLE_EQ(sesgoMuestral(6, 3, S).value(), 54 / (14 * std::sqrt(7.0)));
+    EXPECT_EQ(failureNumber([] { desviacionMuestral(seriesOf({5}), 5); }), 11);
+    EXPECT_EQ(failureNumber([] { sesgoMuestral(6, 2, 1); }), 11);
+    EXPECT_EQ(failureNumber([] { sesgoMuestral(6, 3, 0); }), 11);
 }
 
 /// The definition: the mean over all subsets of r values of the alternating sum of its order
@@ -88,8 +89,7 @@ TEST(LinearMoments, AreTheMeansOverAllSubsets) {
                                           {1, 2, 3, 10},
                                           {-2.5, 0.25, 7, 7, 12.5},
                                           {0.1, 0.2, 0.4, 0.8, 1.6, 3.2, 6.4, 12.8, 25.6, 51.2}}) {
-        const auto n = static_cast<long>(values.size());
-        const MomentosLineales m = momentosLineales(seriesOf(values), n);
+        const MomentosLineales m = momentosLineales(seriesOf(values));
         EXPECT_NEAR(m.l1.value(), momentBySubsets(values, 1), 1e-13);
         EXPECT_NEAR(m.l2.value(), momentBySubsets(values, 2), 1e-13);
         EXPECT_NEAR(m.l3.value(), momentBySubsets(values, 3), 1e-13);
@@ -103,7 +103,7 @@ TEST(LinearMoments, EvenlySpacedValues) {
     std::vector<double> values;
     for (int i = 1; i <= 500; ++i)
         values.push_back(i / 501.0);
-    const MomentosLineales m = momentosLineales(seriesOf(values), 500);
+    const MomentosLineales m = momentosLineales(seriesOf(values));
     EXPECT_NEAR(m.l1.value(), 0.5, 1e-12);
     EXPECT_NEAR(m.l2.value(), 1.0 / 6, 1e-12);
     EXPECT_NEAR(m.l3.value(), 0, 1e-12);
@@ -111,9 +111,10 @@ TEST(LinearMoments, EvenlySpacedValues) {
 }
 
 TEST(LinearMoments, FewerThanFourValuesDivideByZero) {
-    for (long n = 0; n <= 3; ++n)
-        EXPECT_EQ(failureNumber([&] { momentosLineales(seriesOf({1, 2, 3}), n); }), 11) << n;
-    EXPECT_EQ(failureNumber([] { momentosLineales(seriesOf({1, 2, 3, 4}), 4); }), 0);
+    for (const std::vector<double>& few :
+         std::vector<std::vector<double>>{{}, {1}, {1, 2}, {1, 2, 3}})
+        EXPECT_EQ(failureNumber([&] { momentosLineales(seriesOf(few)); }), 11) << few.size();
+    EXPECT_EQ(failureNumber([] { momentosLineales(seriesOf({1, 2, 3, 4})); }), 0);
 }
 
 } // namespace

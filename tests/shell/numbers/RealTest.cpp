@@ -2,7 +2,6 @@
 // arrays with bounds.
 
 #include "shell/numbers/Real.h"
-#include "shell/numbers/BoundedArray.h"
 #include "shell/numbers/Integer16.h"
 #include "tests/shell/numbers/FailureNumber.h"
 
@@ -183,43 +182,6 @@ TEST(Integer16, PastTheRangeIsFailure6) {
     Integer16 low = -32768;
     EXPECT_EQ(failureNumber([&] { --low; }), 6);
     EXPECT_EQ(low, -32768);
-}
-
-TEST(BoundedArray, BothBoundsAreValid) {
-    BoundedArray<double, 1, 500> series;
-    EXPECT_EQ(series.first, 1);
-    EXPECT_EQ(series.last, 500);
-    for (long i = 1; i <= 500; ++i)
-        EXPECT_EQ(series[i], 0) << i;
-    for (long i = 1; i <= 500; ++i)
-        series[i] = static_cast<double>(i) / 2;
-    const auto& read = series;
-    for (long i = 1; i <= 500; ++i)
-        EXPECT_EQ(read[i], static_cast<double>(i) / 2) << i;
-}
-
-TEST(BoundedArray, IndexOutsideIsFailure9) {
-    BoundedArray<double, 1, 500> series;
-    const auto& read = series;
-    EXPECT_EQ(failureNumber([&] { series[0] = 1; }), 9);
-    EXPECT_EQ(failureNumber([&] { series[501] = 1; }), 9);
-    EXPECT_EQ(failureNumber([&] { series[-1] = 1; }), 9);
-    EXPECT_EQ(failureNumber([&] { (void)read[0]; }), 9);
-    EXPECT_EQ(failureNumber([&] { (void)read[501]; }), 9);
-    EXPECT_EQ(failureNumber([&] { (void)read[std::numeric_limits<long>::min()]; }), 9);
-}
-
-TEST(BoundedArray, BoundsOnBothSidesOfZero) {
-    BoundedArray<int, -2, 2> array;
-    array[-2] = 7;
-    array[0] = 8;
-    array[2] = 9;
-    EXPECT_EQ(array[-2], 7);
-    EXPECT_EQ(array[-1], 0);
-    EXPECT_EQ(array[0], 8);
-    EXPECT_EQ(array[2], 9);
-    EXPECT_EQ(failureNumber([&] { array[-3] = 1; }), 9);
-    EXPECT_EQ(failureNumber([&] { array[3] = 1; }), 9);
 }
 
 } // namespace

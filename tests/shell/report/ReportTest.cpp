@@ -89,9 +89,9 @@ TEST_F(ReportTest, ASelectionIsReplacedByTheReport) {
 }
 
 TEST_F(ReportTest, ReportsOfSeveralWorksheetsShareTheDocument) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     click("bReporte");
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     click("bReporte");
     EXPECT_EQ(report(), bloque + bloque);
     EXPECT_EQ(captions(), Captions{"Documento 1"});
@@ -119,7 +119,7 @@ TEST_F(ReportTest, TheReportGoesIntoTheActiveDocument) {
     EXPECT_EQ(padre.active(), padre.documents()[1].get());
     program.act([&] { padre.activate(*padre.documents()[0]); });
     hoja.piezas = {"x"};
-    window("frmRegMul2Var");
+    window("hojaTres");
     click("bReporte");
     EXPECT_EQ(padre.documents()[0]->rtfText.text(), bloque + bloque + "x");
     EXPECT_EQ(padre.documents()[1]->rtfText.text(), "");
@@ -166,7 +166,7 @@ TEST_F(ReportTest, AfterItsExitTheWindowStartsAnewWithDocumentoOne) {
     click("mnuFileExit");
     EXPECT_EQ(ventanaDeReportes(program), nullptr);
     EXPECT_FALSE(program.ended());
-    window("frmRegMul2Var");
+    window("hojaTres");
     click("bReporte");
     EXPECT_EQ(captions(), Captions{"Documento 1"});
     EXPECT_EQ(report(), bloque) << "unsaved text was lost without a question";

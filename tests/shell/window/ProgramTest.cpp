@@ -35,41 +35,41 @@ TEST_F(ProgramTest, AnUnknownWindowIsNotShown) {
     program.act([&] { shown = program.show("frmNinguna"); });
     EXPECT_EQ(shown, nullptr);
     EXPECT_FALSE(program.knows("frmNinguna"));
-    EXPECT_TRUE(program.knows("frmRegMul2Var"));
+    EXPECT_TRUE(program.knows("hojaTres"));
     EXPECT_TRUE(program.knows("frmacerc"));
     EXPECT_EQ(loaded(), Names{"frmCaudalera"});
 }
 
 TEST_F(ProgramTest, ShowingAnOpenWindowBringsItForwardWithItsDataUntouched) {
-    TestSheet& first = sheet("frmParamEsta");
+    TestSheet& first = sheet("hojaUno");
     values({"3", "5"});
-    sheet("frmRegMul2Var");
-    EXPECT_EQ(program.front()->name(), "frmRegMul2Var");
+    sheet("hojaTres");
+    EXPECT_EQ(program.front()->name(), "hojaTres");
     const auto shownBefore = first.shown;
-    EXPECT_EQ(&sheet("frmParamEsta"), &first);
+    EXPECT_EQ(&sheet("hojaUno"), &first);
     EXPECT_EQ(program.front(), &first);
     EXPECT_GT(first.shown, shownBefore);
     EXPECT_EQ(data(), "3.0/5.0");
-    EXPECT_EQ(loaded(), (Names{"frmCaudalera", "frmParamEsta", "frmRegMul2Var"}));
+    EXPECT_EQ(loaded(), (Names{"frmCaudalera", "hojaUno", "hojaTres"}));
 }
 
 TEST_F(ProgramTest, SeveralWorksheetsStandOpenAndShareNothing) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1"});
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     EXPECT_EQ(data(), "");
     rows({{"7", "8"}});
-    window("frmParamEsta");
+    window("hojaUno");
     EXPECT_EQ(data(), "1.0");
 }
 
 TEST_F(ProgramTest, MenuPrincipalUnloadsTheWorksheetAndShowsTheMainWindow) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3", "5"});
     click("bMenu");
     EXPECT_EQ(loaded(), Names{"frmCaudalera"});
     EXPECT_EQ(program.front()->name(), "frmCaudalera");
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     EXPECT_EQ(data(), "") << "the next opening starts from the load state";
     EXPECT_EQ(marks(), "[?]");
 }
@@ -79,20 +79,20 @@ TEST_F(ProgramTest, LoadingResetsTheGridAndThenTheResults) {
 }
 
 TEST_F(ProgramTest, ClosingByTheFrameUnloads) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3"});
-    program.close(window("frmParamEsta"));
+    program.close(window("hojaUno"));
     EXPECT_EQ(loaded(), Names{"frmCaudalera"});
     EXPECT_FALSE(program.ended());
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     EXPECT_EQ(data(), "");
 }
 
 TEST_F(ProgramTest, ClosingTheMainWindowLeavesTheOthersOpen) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3"});
     program.close(*program.find("frmCaudalera"));
-    EXPECT_EQ(loaded(), Names{"frmParamEsta"});
+    EXPECT_EQ(loaded(), Names{"hojaUno"});
     EXPECT_FALSE(program.ended());
     EXPECT_EQ(data(), "3.0");
     click("bMenu");
@@ -107,7 +107,7 @@ TEST_F(ProgramTest, ClosingTheLastWindowEndsTheProgram) {
 }
 
 TEST_F(ProgramTest, SalirEndsAtOnceWithoutAnyQuestion) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3"});
     click("bReporte");
     window("frmCaudalera");
@@ -124,7 +124,7 @@ TEST_F(ProgramTest, TheMenusSalirDoesTheSame) {
 }
 
 TEST_F(ProgramTest, AFailureWithoutATrapIsFatal) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     click("bCalcular");
     EXPECT_TRUE(fatal(11)) << "the mean of no values divides by 0";
     EXPECT_EQ(program.ended()->number, 11);
@@ -132,7 +132,7 @@ TEST_F(ProgramTest, AFailureWithoutATrapIsFatal) {
 }
 
 TEST_F(ProgramTest, AFatalFailureLeavesWhatWasWrittenBefore) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     for (long i = 0; i < TestSheet::capacidad + 1; ++i)
         values({"1"});
     EXPECT_FALSE(program.ended()) << "the grid itself has no limit";
@@ -142,14 +142,14 @@ TEST_F(ProgramTest, AFatalFailureLeavesWhatWasWrittenBefore) {
 }
 
 TEST_F(ProgramTest, AfterTheEndNothingRunsAndThePlatformIsToldOnce) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     click("bCalcular");
     platform.ending.reset();
     values({"1"});
     click("bMenu");
     program.close(hoja);
     EXPECT_EQ(data(), "");
-    EXPECT_EQ(program.find("frmParamEsta"), &hoja);
+    EXPECT_EQ(program.find("hojaUno"), &hoja);
     EXPECT_FALSE(platform.ending);
 }
 
@@ -160,26 +160,26 @@ TEST_F(ProgramTest, AFailureDuringTheLoadOfAWindowIsFatal) {
 }
 
 TEST_F(ProgramTest, AnActInsideAnActIsTheSameEvent) {
-    sheet("frmParamEsta");
-    const Window* const hoja = program.find("frmParamEsta");
+    sheet("hojaUno");
+    const Window* const hoja = program.find("hojaUno");
     program.act([&] {
         click("bMenu");
-        EXPECT_EQ(hoja->name(), "frmParamEsta") << "what the running event stands on is kept";
+        EXPECT_EQ(hoja->name(), "hojaUno") << "what the running event stands on is kept";
     });
     EXPECT_EQ(loaded(), Names{"frmCaudalera"});
 }
 
 TEST_F(ProgramTest, PrintingSendsTheWindowWithoutADialog) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     click("bImprimir");
     ASSERT_EQ(platform.printed.size(), 1U);
     EXPECT_EQ(platform.printed[0].what, "window");
-    EXPECT_EQ(platform.printed[0].name, "frmParamEsta");
+    EXPECT_EQ(platform.printed[0].name, "hojaUno");
     EXPECT_TRUE(platform.dialogsSeen.empty());
 }
 
 TEST_F(ProgramTest, LimpiarReturnsToTheLoadState) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"3", "5"});
     click("bCalcular");
     EXPECT_EQ(text("txtres"), "4.00");
@@ -193,7 +193,7 @@ TEST_F(ProgramTest, LimpiarReturnsToTheLoadState) {
 }
 
 TEST_F(ProgramTest, ResultsStandUntilTheNextCalculation) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3", "5"});
     click("bCalcular");
     values({"10"});
@@ -203,13 +203,13 @@ TEST_F(ProgramTest, ResultsStandUntilTheNextCalculation) {
 }
 
 TEST_F(ProgramTest, TheCalculatorOpensFromEveryWorksheetAsOneInstance) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     EXPECT_EQ(control<Button>("bCalculadora").enabled, program.knows("frmCalculadora"));
     if (!program.knows("frmCalculadora"))
         return;
     click("bCalculadora");
     const Window* const calculator = program.find("frmCalculadora");
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     click("bCalculadora");
     EXPECT_EQ(program.front(), calculator);
 }

@@ -50,7 +50,7 @@ TEST_F(WorksheetEditingTest, ACharacterOpensTheBoxWithItAndTheCaretBehind) {
 }
 
 TEST_F(WorksheetEditingTest, ACodeUpTo32OpensTheBoxWithTheCellSelected) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"12.5"});
     for (const char32_t code : {0U, 1U, 8U, 32U}) {
         cell("grdt", 1, 1);
@@ -72,7 +72,7 @@ TEST_F(WorksheetEditingTest, ACodeUpTo32OpensTheBoxWithTheCellSelected) {
 }
 
 TEST_F(WorksheetEditingTest, AnEmptyCellAndOneWithoutANumberAreLoadedAsZero) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 1, 1);
     type("grdt", "abc");
@@ -98,7 +98,7 @@ TEST_F(WorksheetEditingTest, EscapeHidesTheBoxWithoutStoring) {
 }
 
 TEST_F(WorksheetEditingTest, EnterStoresTheNumericReading) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"abc", "12abc", "1,5", "1 234", " .5", "-7", "1e2", "1.123456785", "5"});
     EXPECT_EQ(data(), "0.0/12.0/1.0/1234.0/0.5/-7.0/100.0/1.12345679/5.0");
     EXPECT_EQ(focus(), "grdt");
@@ -106,7 +106,7 @@ TEST_F(WorksheetEditingTest, EnterStoresTheNumericReading) {
 }
 
 TEST_F(WorksheetEditingTest, DownStoresTheTextAsTypedAndMovesDown) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 1, 1);
     type("grdt", "abc");
@@ -129,7 +129,7 @@ TEST_F(WorksheetEditingTest, DownOnTheAppendRowStaysThere) {
 }
 
 TEST_F(WorksheetEditingTest, UpStoresTheTextAsTypedAndMovesUpToTheFirstDataRow) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 2, 1);
     type("grdt", "8");
@@ -143,7 +143,7 @@ TEST_F(WorksheetEditingTest, UpStoresTheTextAsTypedAndMovesUpToTheFirstDataRow) 
 }
 
 TEST_F(WorksheetEditingTest, UpFromTheAppendRowDropsWhatWasTyped) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1"});
     type("grdt", "8");
     key("grdt", Key::Kind::up);
@@ -152,7 +152,7 @@ TEST_F(WorksheetEditingTest, UpFromTheAppendRowDropsWhatWasTyped) {
 }
 
 TEST_F(WorksheetEditingTest, ArrowsOnTheGridMoveTheCurrentRow) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     EXPECT_EQ(current(), "3,1");
     key("grdt", Key::Kind::down);
@@ -177,7 +177,7 @@ TEST_F(WorksheetEditingTest, TheStatusBarTellsHowToEnterWhileTheBoxHasTheFocus) 
 }
 
 TEST_F(WorksheetEditingTest, ACommandLeavesTheBoxOpenAndNothingStored) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"2", "4"});
     cell("grdt", 1, 1);
     type("grdt", "100");
@@ -193,7 +193,7 @@ TEST_F(WorksheetEditingTest, ACommandLeavesTheBoxOpenAndNothingStored) {
 }
 
 TEST_F(WorksheetEditingTest, AClickOnAnotherCellStoresInTheOneBeingEdited) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"2", "4"});
     cell("grdt", 1, 1);
     type("grdt", "7.");
@@ -216,7 +216,7 @@ TEST_F(WorksheetEditingTest, TypingInTheAppendRowAndClickingOnAnotherRowClearsIt
 }
 
 TEST_F(WorksheetEditingTest, ScrollingHidesTheBoxAndStoresNothing) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2", "3"});
     cell("grdt", 1, 1);
     type("grdt", "9");
@@ -226,7 +226,7 @@ TEST_F(WorksheetEditingTest, ScrollingHidesTheBoxAndStoresNothing) {
 }
 
 TEST_F(WorksheetEditingTest, ALeftCellHidesTheBoxAndStoresNothing) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1", "2", "3"});
     cell("grdt", 1, 1);
     type("grdt", "9");
@@ -236,7 +236,7 @@ TEST_F(WorksheetEditingTest, ALeftCellHidesTheBoxAndStoresNothing) {
 }
 
 TEST_F(WorksheetEditingTest, EnterInTheFirstOfTwoColumnsMovesRightAndAddsNoRow) {
-    auto& hoja = sheet("frmRegreLineal");
+    auto& hoja = sheet("hojaDos");
     type("grdt", "1");
     key("grdt", Key::Kind::enter);
     EXPECT_EQ(current(), "1,2");
@@ -256,7 +256,7 @@ TEST_F(WorksheetEditingTest, AnEmptyCellOfTheAppendRowBecomesZero) {
 }
 
 TEST_F(WorksheetEditingTest, AppendingNormalisesWhatUpAndDownLeftAsTyped) {
-    auto& hoja = sheet("frmRegreLineal");
+    auto& hoja = sheet("hojaDos");
     type("grdt", "2x");
     key("grdt", Key::Kind::down);
     EXPECT_EQ(cellText("grdt", 1, 1), "2x");
@@ -284,7 +284,7 @@ TEST_F(WorksheetEditingTest, EnterOnARowOfDataMovesDownInItsColumn) {
 }
 
 TEST_F(WorksheetEditingTest, EnterOnTheGridScrollsTheCurrentRowToTheTop) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1", "2", "3"});
     EXPECT_EQ(hoja.grdt.TopRow(), 1) << "ENTER in the box does not scroll";
     cell("grdt", 1, 1);
@@ -295,7 +295,7 @@ TEST_F(WorksheetEditingTest, EnterOnTheGridScrollsTheCurrentRowToTheTop) {
 
 TEST_F(WorksheetEditingTest, ACommaLocaleCutsTheDecimals) {
     platform.separator = ",";
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     type("grdt", "2.5");
     key("grdt", Key::Kind::enter);
     EXPECT_EQ(data(), "2,0") << "the mask writes 2,5, which the appending reads as 2";
@@ -308,7 +308,7 @@ TEST_F(WorksheetEditingTest, ACommaLocaleCutsTheDecimals) {
 }
 
 TEST_F(WorksheetEditingTest, AValuePastTheDoubleRangeIsFatal) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     type("grdt", "1e309");
     EXPECT_FALSE(program.ended());
     key("grdt", Key::Kind::enter);
@@ -316,7 +316,7 @@ TEST_F(WorksheetEditingTest, AValuePastTheDoubleRangeIsFatal) {
 }
 
 TEST_F(WorksheetEditingTest, TheGridItselfHasNoCapacity) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values(std::vector<std::string>(TestSheet::capacidad + 5, "1"));
     EXPECT_EQ(hoja.grdt.Rows(), TestSheet::capacidad + 7);
     EXPECT_FALSE(program.ended());

@@ -9,7 +9,7 @@ namespace {
 class WorksheetFileFailuresTest : public SheetFilesTest {};
 
 TEST_F(WorksheetFileFailuresTest, WithALastRecordAFileOfNoRecordsFailsSilently) {
-    auto& hoja = sheet("frmQmaxNash");
+    auto& hoja = sheet("hojaUltimoUno");
     values({"1"});
     load(zeros(0));
     EXPECT_EQ(hoja.grdt.Rows(), 2);
@@ -20,7 +20,7 @@ TEST_F(WorksheetFileFailuresTest, WithALastRecordAFileOfNoRecordsFailsSilently) 
 }
 
 TEST_F(WorksheetFileFailuresTest, AFileThatCannotBeOpenedFailsSilentlyAndLeavesAnEmptyGrid) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     for (const std::string& path : {file("none.X"), file(""), file("none/a.X")}) {
         values({"1"});
         load(path);
@@ -39,7 +39,7 @@ TEST_F(WorksheetFileFailuresTest, AFileThatCannotBeOpenedFailsSilentlyAndLeavesA
 }
 
 TEST_F(WorksheetFileFailuresTest, OnlyTheDialogsOwnErrorHasAMessage) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     hoja.falloAlLeer = Failure::dialogCancelled;
     save(file("a.X"));
     EXPECT_EQ(messages(),
@@ -62,7 +62,7 @@ TEST_F(WorksheetFileFailuresTest, OnlyTheDialogsOwnErrorHasAMessage) {
 }
 
 TEST_F(WorksheetFileFailuresTest, RowsPastTheCapacityAreFatalInSpiteOfTheTrap) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values(std::vector<std::string>(TestSheet::capacidad + 1, "1"));
     save(file("a.X"));
     EXPECT_TRUE(fatal(9));
@@ -71,7 +71,7 @@ TEST_F(WorksheetFileFailuresTest, RowsPastTheCapacityAreFatalInSpiteOfTheTrap) {
 }
 
 TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileNumberInUse) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "1e39"});
     save(file("a.X"));
     EXPECT_EQ(messages(), std::vector<Message>{});
@@ -79,7 +79,7 @@ TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileNumberInUse) 
     EXPECT_TRUE(program.variables.archivoUnoEnUso);
     EXPECT_EQ(bytesOf(file("a.X")).size(), 4U) << "what was written before stays";
 
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     rows({{"1", "2"}});
     save(file("b.XY"));
     EXPECT_FALSE(std::filesystem::exists(file("b.XY"))) << "every later file command fails";
@@ -89,7 +89,7 @@ TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileNumberInUse) 
 }
 
 TEST_F(WorksheetFileFailuresTest, ARecordThatIsNoNumberEndsTheLoadWhereItStands) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     // 1, the quiet not-a-number 7FC00000, 2.5.
     writeBytes(file("nan.X"),
                {0x00, 0x00, 0x80, 0x3F, 0x00, 0x00, 0xC0, 0x7F, 0x00, 0x00, 0x20, 0x40});
@@ -101,7 +101,7 @@ TEST_F(WorksheetFileFailuresTest, ARecordThatIsNoNumberEndsTheLoadWhereItStands)
 }
 
 TEST_F(WorksheetFileFailuresTest, AGridHoldsAsManyRowsAs16BitsCount) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     load(zeros(32765));
     EXPECT_EQ(hoja.grdt.Rows(), 32767);
     EXPECT_EQ(cellText("grdt", 32765, 0), " 32765");
@@ -115,7 +115,7 @@ TEST_F(WorksheetFileFailuresTest, AGridHoldsAsManyRowsAs16BitsCount) {
 }
 
 TEST_F(WorksheetFileFailuresTest, MoreRecordsThan16BitsFailSilently) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     load(zeros(32768));
     EXPECT_EQ(hoja.grdt.Rows(), 2);
     EXPECT_EQ(program.variables.numRegistros, 0);
@@ -124,14 +124,14 @@ TEST_F(WorksheetFileFailuresTest, MoreRecordsThan16BitsFailSilently) {
 }
 
 TEST_F(WorksheetFileFailuresTest, WithALastRecordTheGridHoldsOneRecordMore) {
-    auto& hoja = sheet("frmQmaxNash");
+    auto& hoja = sheet("hojaUltimoUno");
     load(zeros(32766));
     EXPECT_EQ(hoja.grdt.Rows(), 32767);
     EXPECT_EQ(hoja.n, 32765);
 }
 
 TEST_F(WorksheetFileFailuresTest, AppendingPastThe16BitsIsFatal) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     load(zeros(32765));
     values({"1"});
     EXPECT_TRUE(fatal(6));

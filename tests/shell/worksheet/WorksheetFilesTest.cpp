@@ -9,7 +9,7 @@ namespace {
 class WorksheetFilesTest : public SheetFilesTest {};
 
 TEST_F(WorksheetFilesTest, SavingWritesTheRowsInColumnOrder) {
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     rows({{"1", "2.5"}, {"-2", "0.1"}});
     save(file("a.XY"));
     // 1 = 3F800000, 2.5 = 40200000, -2 = C0000000, 0.1 = 3DCCCCCD.
@@ -21,10 +21,10 @@ TEST_F(WorksheetFilesTest, SavingWritesTheRowsInColumnOrder) {
 
 TEST_F(WorksheetFilesTest, EveryWidthGoesOutAndComesBack) {
     for (const auto& [name, row] : std::vector<std::pair<std::string, std::vector<std::string>>>{
-             {"frmParamEsta", {"1.5"}},
-             {"frmRegreLineal", {"1.5", "2.5"}},
-             {"frmRegMul2Var", {"1.5", "2.5", "3.5"}},
-             {"frmRegMul3Var", {"1.5", "2.5", "3.5", "4.5"}}}) {
+             {"hojaUno", {"1.5"}},
+             {"hojaDos", {"1.5", "2.5"}},
+             {"hojaTres", {"1.5", "2.5", "3.5"}},
+             {"hojaCuatro", {"1.5", "2.5", "3.5", "4.5"}}}) {
         sheet(name);
         rows({row, row, row});
         const std::string before = data();
@@ -38,7 +38,7 @@ TEST_F(WorksheetFilesTest, EveryWidthGoesOutAndComesBack) {
 }
 
 TEST_F(WorksheetFilesTest, AnEmptyGridIsAFileOfNoLength) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     save(file("empty.X"));
     ASSERT_TRUE(std::filesystem::exists(file("empty.X")));
     EXPECT_EQ(bytesOf(file("empty.X")), Bytes{});
@@ -50,7 +50,7 @@ TEST_F(WorksheetFilesTest, AnEmptyGridIsAFileOfNoLength) {
 }
 
 TEST_F(WorksheetFilesTest, SavingAgainWithFewerRowsLeavesAShorterFile) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2", "3"});
     save(file("a.X"));
     cell("grdt", 1, 1);
@@ -61,7 +61,7 @@ TEST_F(WorksheetFilesTest, SavingAgainWithFewerRowsLeavesAShorterFile) {
 }
 
 TEST_F(WorksheetFilesTest, LoadingReplacesTheRowsAndGoesToTheAppendRow) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1", "2"});
     save(file("a.X"));
     values({"3", "4"});
@@ -79,7 +79,7 @@ TEST_F(WorksheetFilesTest, LoadingReplacesTheRowsAndGoesToTheAppendRow) {
 }
 
 TEST_F(WorksheetFilesTest, AValueComesBackAsTheSingleThatItIs) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"0.1", "123456.789", "16777217", "0.333333333", "1e10", "0.000000012"});
     save(file("a.X"));
     load(file("a.X"));
@@ -89,27 +89,27 @@ TEST_F(WorksheetFilesTest, AValueComesBackAsTheSingleThatItIs) {
 }
 
 TEST_F(WorksheetFilesTest, APartialLastRecordIsIgnored) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     writeBytes(file("ten.X"), {0x00, 0x00, 0x80, 0x3F, 0x00, 0x00, 0x20, 0x40, 0x00, 0x00});
     load(file("ten.X"));
     EXPECT_EQ(data(), "1.0/2.5");
 }
 
 TEST_F(WorksheetFilesTest, AFileOfAnotherWindowIsReadByItsOwnRecordLength) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2", "3", "4", "5"});
     save(file("five.X"));
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     load(file("five.X"));
     EXPECT_EQ(data(), "1.0|2.0/3.0|4.0");
-    sheet("frmVariacionEsta");
+    sheet("hojaMeses");
     load(file("five.X"));
     EXPECT_EQ(data(), "1.0/2.0/3.0/4.0/5.0");
     EXPECT_EQ(marks(), "Ene|Feb|Mar|Abr|May|[->]");
 }
 
 TEST_F(WorksheetFilesTest, TheTemperatureWindowsHaveAMaskOfTheirOwn) {
-    sheet("frmThornthwaite");
+    sheet("hojaMascara");
     values({"12.346", "7", "20.5"});
     save(file("a.TM"));
     load(file("a.TM"));
@@ -117,7 +117,7 @@ TEST_F(WorksheetFilesTest, TheTemperatureWindowsHaveAMaskOfTheirOwn) {
 }
 
 TEST_F(WorksheetFilesTest, TheLastRecordStandsBehindTheRows) {
-    auto& hoja = sheet("frmQmaxNash");
+    auto& hoja = sheet("hojaUltimoUno");
     values({"1", "2"});
     hoja.registroFinal = {1970};
     save(file("a.Q"));
@@ -134,7 +134,7 @@ TEST_F(WorksheetFilesTest, TheLastRecordStandsBehindTheRows) {
 
 TEST_F(WorksheetFilesTest, WithALastRecordAnEmptyGridIsAFileOfOne) {
     for (const auto& [name, bytes] : std::vector<std::pair<std::string, std::size_t>>{
-             {"frmQmaxNash", 4}, {"frmIsoyeta", 8}, {"frmAforoCorren", 12}}) {
+             {"hojaUltimoUno", 4}, {"hojaUltimoDos", 8}, {"hojaUltimoTres", 12}}) {
         auto& hoja = sheet(name);
         hoja.registroFinal[0] = 7;
         save(file(name));
@@ -147,22 +147,22 @@ TEST_F(WorksheetFilesTest, WithALastRecordAnEmptyGridIsAFileOfOne) {
 }
 
 TEST_F(WorksheetFilesTest, TheDialogsReadAsTold) {
-    sheet("frmQmaxNash");
+    sheet("hojaUltimoUno");
     click("bCrear");
     click("bAccesar");
     ASSERT_EQ(platform.dialogsSeen.size(), 2U);
     EXPECT_EQ(platform.dialogsSeen[0].kind, "save");
     EXPECT_EQ(platform.dialogsSeen[0].title,
               "Ubicar directorio y escribir el nombre archivo a crear");
-    EXPECT_EQ(platform.dialogsSeen[0].filter, "Valores de Q|*.Q");
+    EXPECT_EQ(platform.dialogsSeen[0].filter, "Valores uno|*.U");
     EXPECT_EQ(platform.dialogsSeen[0].fileName, "");
     EXPECT_EQ(platform.dialogsSeen[1].kind, "open");
     EXPECT_EQ(platform.dialogsSeen[1].title, "Seleccionar el archivo a cargar");
-    EXPECT_EQ(platform.dialogsSeen[1].filter, "Valores Q|*.Q");
+    EXPECT_EQ(platform.dialogsSeen[1].filter, "Abrir uno|*.U");
 }
 
 TEST_F(WorksheetFilesTest, ALoadCancelledOnFirstUseHasLostGridAndResults) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"2", "4"});
     click("bCalcular");
     EXPECT_EQ(cellText("grdres", 1, 0), "3.00");
@@ -175,7 +175,7 @@ TEST_F(WorksheetFilesTest, ALoadCancelledOnFirstUseHasLostGridAndResults) {
 }
 
 TEST_F(WorksheetFilesTest, ResultsAreResetBeforeTheDialogAndTheGridAfterIt) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"2", "4", "6"});
     save(file("a.X"));
     values({"8"});
@@ -189,7 +189,7 @@ TEST_F(WorksheetFilesTest, ResultsAreResetBeforeTheDialogAndTheGridAfterIt) {
 }
 
 TEST_F(WorksheetFilesTest, ACancelledDialogGivesBackTheNameChosenLastInIt) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1"});
     save(file("a.X"));
     values({"2"});
@@ -202,24 +202,24 @@ TEST_F(WorksheetFilesTest, ACancelledDialogGivesBackTheNameChosenLastInIt) {
     click("bLimpiar");
     click("bAccesar");
     EXPECT_EQ(data(), "1.0/2.0");
-    sheet("frmRegreLineal");
+    sheet("hojaDos");
     click("bAccesar");
     EXPECT_EQ(data(), "") << "nor has that of another window";
 }
 
 TEST_F(WorksheetFilesTest, AReopenedWindowHasForgottenTheName) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1"});
     save(file("a.X"));
     click("bMenu");
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     std::filesystem::remove(file("a.X"));
     click("bCrear");
     EXPECT_FALSE(std::filesystem::exists(file("a.X")));
 }
 
 TEST_F(WorksheetFilesTest, ASaveCancelledOnFirstUseIsSilentAndReadsTheGridAllTheSame) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1", "2"});
     hoja.pasos.clear();
     click("bCrear");
@@ -230,14 +230,14 @@ TEST_F(WorksheetFilesTest, ASaveCancelledOnFirstUseIsSilentAndReadsTheGridAllThe
 }
 
 TEST_F(WorksheetFilesTest, LoadingHasNoCapacity) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     load(zeros(TestSheet::capacidad + 1));
     EXPECT_EQ(hoja.grdt.Rows(), TestSheet::capacidad + 3);
     EXPECT_EQ(hoja.n, TestSheet::capacidad + 1);
 }
 
 TEST_F(WorksheetFilesTest, LoadingUnderACommaLocaleWritesCommas) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     writeBytes(file("a.X"), {0x00, 0x00, 0x20, 0x40});
     platform.separator = ",";
     load(file("a.X"));
@@ -248,7 +248,7 @@ TEST_F(WorksheetFilesTest, LoadingUnderACommaLocaleWritesCommas) {
 }
 
 TEST_F(WorksheetFilesTest, LoadingWhileEditingDropsTheBox) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1"});
     save(file("a.X"));
     type("grdt", "77");

@@ -17,7 +17,7 @@ protected:
 };
 
 TEST_F(WorksheetRowsTest, TheMarkerShowsWhetherTheAppendRowIsCurrent) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     EXPECT_EQ(marks(), "[?]") << "until the first row change";
     cell("grdt", 1, 1);
     EXPECT_EQ(marks(), "[->]");
@@ -48,7 +48,7 @@ TEST_F(WorksheetRowsTest, MovingWithinARowOfDataEmptiesOnlyTheAppendRow) {
 }
 
 TEST_F(WorksheetRowsTest, TheNumberOfRowsOfDataLeavesOutHeaderAndAppendRow) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     click("bCrear");
     EXPECT_EQ(hoja.n, 0);
     EXPECT_EQ(hoja.grdt.Rows(), 2);
@@ -74,7 +74,7 @@ TEST_F(WorksheetRowsTest, TheRightButtonSelectsTheRowFromColumnOne) {
 }
 
 TEST_F(WorksheetRowsTest, TheRightButtonStoresWhatIsBeingTyped) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 1, 1);
     type("grdt", "9");
@@ -108,7 +108,7 @@ TEST_F(WorksheetRowsTest, InsertingIsRefusedOnTheAppendRowAlsoWithoutAPopUp) {
 }
 
 TEST_F(WorksheetRowsTest, InsertingMovesTheRowsDownAndLeavesAnEmptyOne) {
-    auto& hoja = sheet("frmRegreLineal");
+    auto& hoja = sheet("hojaDos");
     rows({{"1", "2"}, {"3", "4"}, {"5", "6"}});
     cell("grdt", 2, 2);
     rightClick();
@@ -123,7 +123,7 @@ TEST_F(WorksheetRowsTest, InsertingMovesTheRowsDownAndLeavesAnEmptyOne) {
 }
 
 TEST_F(WorksheetRowsTest, InsertingAtTheFirstAndTheLastRowOfData) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 2, 1);
     click("mnuEditInsertar");
@@ -135,7 +135,7 @@ TEST_F(WorksheetRowsTest, InsertingAtTheFirstAndTheLastRowOfData) {
 }
 
 TEST_F(WorksheetRowsTest, AnInsertedRowIsFilledByTyping) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 1, 1);
     click("mnuEditInsertar");
@@ -146,7 +146,7 @@ TEST_F(WorksheetRowsTest, AnInsertedRowIsFilledByTyping) {
 }
 
 TEST_F(WorksheetRowsTest, DeletingTheFirstOfThreeRowsRenumbersTheOthers) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2", "3"});
     cell("grdt", 1, 1);
     rightClick();
@@ -157,7 +157,7 @@ TEST_F(WorksheetRowsTest, DeletingTheFirstOfThreeRowsRenumbersTheOthers) {
 }
 
 TEST_F(WorksheetRowsTest, DeletingTheLastRowOfDataMakesTheAppendRowCurrent) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"1", "2"});
     cell("grdt", 2, 1);
     rightClick();
@@ -170,7 +170,7 @@ TEST_F(WorksheetRowsTest, DeletingTheLastRowOfDataMakesTheAppendRowCurrent) {
 }
 
 TEST_F(WorksheetRowsTest, DeletingTheOnlyRowLeavesTheAppendRow) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1"});
     cell("grdt", 1, 1);
     click("mnuEditEliminar");
@@ -194,7 +194,7 @@ TEST_F(WorksheetRowsTest, DeletingOnTheAppendRowEmptiesTheWholeGrid) {
 }
 
 TEST_F(WorksheetRowsTest, DeletingInAnEmptyGridLeavesItSo) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     rightClick();
     click("mnuEditEliminar");
     EXPECT_EQ(hoja.grdt.Rows(), 2);
@@ -203,7 +203,7 @@ TEST_F(WorksheetRowsTest, DeletingInAnEmptyGridLeavesItSo) {
 }
 
 TEST_F(WorksheetRowsTest, MonthLabelsRunInCycles) {
-    sheet("frmVariacionEsta");
+    sheet("hojaMeses");
     values(std::vector<std::string>(14, "1"));
     EXPECT_EQ(marks(), "Ene|Feb|Mar|Abr|May|Jun|Jul|Ago|Set|Oct|Nov|Dic|Ene|Feb|[->]");
     EXPECT_EQ(mesDeFila(24), "Dic");
@@ -211,7 +211,7 @@ TEST_F(WorksheetRowsTest, MonthLabelsRunInCycles) {
 }
 
 TEST_F(WorksheetRowsTest, InsertingAndDeletingWriteTheMonthsAnew) {
-    sheet("frmVariacionEsta");
+    sheet("hojaMeses");
     values({"1", "2", "3"});
     cell("grdt", 2, 1);
     click("mnuEditInsertar");
@@ -225,7 +225,7 @@ TEST_F(WorksheetRowsTest, InsertingAndDeletingWriteTheMonthsAnew) {
 }
 
 TEST_F(WorksheetRowsTest, ResettingTheGridWhileEditingDropsTheBox) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     values({"1"});
     type("grdt", "5");
     click("bLimpiar");
@@ -235,7 +235,7 @@ TEST_F(WorksheetRowsTest, ResettingTheGridWhileEditingDropsTheBox) {
 }
 
 TEST_F(WorksheetRowsTest, LabelsCarryALeadingBlankPastNineRows) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values(std::vector<std::string>(10, "1"));
     EXPECT_EQ(cellText("grdt", 9, 0), " 9");
     EXPECT_EQ(cellText("grdt", 10, 0), " 10");

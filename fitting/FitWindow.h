@@ -1,0 +1,34 @@
+#pragma once
+
+#include "fitting/FitWorksheet.h"
+
+namespace caudalera {
+
+/// The window of a distribution: binds the parameters of each kind of moments to the routines of
+/// the distribution, which stand in a file of their own under the same names for all of them.
+template <typename Distribucion>
+class FitWindow : public FitWorksheet {
+public:
+    using FitWorksheet::FitWorksheet;
+
+protected:
+    Distribucion conOrdinarios;
+    Distribucion conLineales;
+
+    Distribucion& distribucion(Momentos tipo) {
+        return tipo == Momentos::lineales ? conLineales : conOrdinarios;
+    }
+
+    void calcularParametros() override {
+        const auto ordenada = serieOrdenada.primeros(conteoDatos);
+        ajustarOrdinarios(conOrdinarios, ordenada);
+        ajustarLineales(conLineales, ordenada);
+    }
+    Real reducir(Momentos tipo, Real q) override { return variableReducida(distribucion(tipo), q); }
+    Real probabilidad(Momentos tipo, Real reducida) override {
+        return acumulada(distribucion(tipo), reducida);
+    }
+    Real cuantil(Momentos tipo, Real p) override { return inversa(distribucion(tipo), p); }
+};
+
+} // namespace caudalera
