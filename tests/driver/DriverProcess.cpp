@@ -102,19 +102,7 @@ int DriverProcess::finish() {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-DriverTest::DriverTest(std::vector<std::string> arguments)
-    : driver(std::move(arguments)),
-      folder_(std::filesystem::temp_directory_path() /
-              (std::string("caudalera-driver-") +
-               ::testing::UnitTest::GetInstance()->current_test_info()->test_suite_name() + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name())) {
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-}
-
-DriverTest::~DriverTest() {
-    std::filesystem::remove_all(folder_);
-}
+DriverTest::DriverTest(std::vector<std::string> arguments) : driver(std::move(arguments)) {}
 
 json DriverTest::raw(const std::string& line) {
     json reply = json::parse(driver.exchange(line));

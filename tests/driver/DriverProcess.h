@@ -1,10 +1,11 @@
 #pragma once
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <nlohmann/json.hpp>
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -42,7 +43,6 @@ private:
 class DriverTest : public ::testing::Test {
 protected:
     explicit DriverTest(std::vector<std::string> arguments = {});
-    ~DriverTest() override;
 
     json raw(const std::string& line);
     json ask(const std::string& op, json members = json::object());
@@ -72,12 +72,12 @@ protected:
     /// Opens a window by its entry of the main menu.
     void open(const std::string& entry, const std::string& window);
 
-    std::string file(const std::string& name) const { return (folder_ / name).string(); }
+    std::string file(const std::string& name) const { return folder_.file(name); }
 
     DriverProcess driver;
 
 private:
-    std::filesystem::path folder_;
+    TemporaryFolder folder_;
 };
 
 } // namespace caudalera

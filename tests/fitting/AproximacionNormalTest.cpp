@@ -1,7 +1,7 @@
 // The two normal routines against printed tables and the errors that their source states.
 
 #include "fitting/aproximacionNormal.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

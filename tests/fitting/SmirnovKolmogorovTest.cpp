@@ -1,7 +1,7 @@
 // The steps of the goodness-of-fit test as numbers.
 
 #include "fitting/smirnovKolmogorov.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 #include <vector>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/files/FilePath.h"
+
 #include <bit>
 #include <cstdint>
 #include <fstream>
@@ -9,19 +11,28 @@
 
 namespace caudalera {
 
+using Bytes = std::vector<std::uint8_t>;
+
+inline Bytes bytesOf(const std::string& path) {
+    std::ifstream stream(filePath(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline void writeBytes(const std::string& path, const Bytes& bytes) {
+    std::ofstream stream(filePath(path), std::ios::binary);
+    for (const std::uint8_t byte : bytes)
+        stream.put(static_cast<char>(byte));
+}
+
 /// Writes a series file of 4-byte records byte by byte, the lowest byte of each single first.
 inline void writeSingles(const std::string& path, const std::vector<float>& values) {
-    std::ofstream file(path, std::ios::binary);
+    Bytes bytes;
     for (const float value : values) {
         const auto bits = std::bit_cast<std::uint32_t>(value);
         for (int shift = 0; shift < 32; shift += 8)
-            file.put(static_cast<char>((bits >> shift) & 0xFFU));
+            bytes.push_back(static_cast<std::uint8_t>(bits >> shift));
     }
-}
-
-inline std::vector<unsigned char> bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    writeBytes(path, bytes);
 }
 
 } // namespace caudalera

@@ -16,18 +16,9 @@ std::vector<WindowEntry> withProgramWindows(std::vector<WindowEntry> windows) {
 }
 
 WindowTest::WindowTest(const std::vector<WindowEntry>& opens) : program(platform, opens) {
-    const auto* const info = ::testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::temp_directory_path() /
-              (std::string("caudalera-") + info->test_suite_name() + "-" + info->name());
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-    platform.directory = folder_;
+    platform.directory = folder_.path();
     program.start();
     current_ = program.find("frmCaudalera");
-}
-
-WindowTest::~WindowTest() {
-    std::filesystem::remove_all(folder_);
 }
 
 Window& WindowTest::open(const std::string& name) {
@@ -106,6 +97,11 @@ std::string WindowTest::focus() {
 
 std::vector<Message> WindowTest::messages() {
     return std::exchange(platform.messages, {});
+}
+
+void WindowTest::expectMessage(const Message& message, std::source_location where) {
+    const ::testing::ScopedTrace trace(where.file_name(), static_cast<int>(where.line()), "");
+    EXPECT_EQ(messages(), std::vector{message});
 }
 
 std::string WindowTest::report() {

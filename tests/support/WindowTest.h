@@ -3,11 +3,12 @@
 #include "app/registry.h"
 #include "recording/Act.h"
 #include "recording/RecordingPlatform.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include "shell/window/Program.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
+#include <source_location>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,7 +24,6 @@ class WindowTest : public ::testing::Test {
 protected:
     /// `opens`: the windows that the program can open; all that there are, if not given.
     explicit WindowTest(const std::vector<WindowEntry>& opens = ventanas());
-    ~WindowTest() override;
 
     RecordingPlatform platform;
     Program program;
@@ -59,13 +59,16 @@ protected:
 
     /// The message boxes since the last call.
     std::vector<Message> messages();
+    /// That this is the one message box since the last call.
+    void expectMessage(const Message& message,
+                       std::source_location where = std::source_location::current());
     /// Text of the active document of the report window.
     std::string report();
     bool fatal(int number) const;
-    std::string file(const std::string& name) const { return (folder_ / name).string(); }
+    std::string file(const std::string& name) const { return folder_.file(name); }
 
 private:
-    std::filesystem::path folder_;
+    TemporaryFolder folder_;
     Window* current_ = nullptr;
 };
 

@@ -1,6 +1,6 @@
 #include "shell/files/SeriesFile.h"
-#include "tests/shell/files/SeriesBytes.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
+#include "tests/support/SeriesBytes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The common parameters as numbers, where the masks of the window would hide their accuracy.
 
 #include "shell/numbers/parametrosComunes.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 #include "tests/support/PublishedSeries.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // Selection sort and linear moments against other ways to get them.
 
 #include "shell/numbers/momentos.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 
 #include "shell/numbers/Real.h"
 #include "shell/numbers/Integer16.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 

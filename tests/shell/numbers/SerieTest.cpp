@@ -1,7 +1,7 @@
 // The series of a calculation: its bounds, and what the routines are handed of it.
 
 #include "shell/numbers/Serie.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 #include <limits>

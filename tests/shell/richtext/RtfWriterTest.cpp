@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -14,6 +13,7 @@
 #include "shell/richtext/CodePages.h"
 #include "shell/richtext/RichText.h"
 #include "tests/shell/richtext/RichTextShow.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace caudalera {
 namespace {
@@ -146,9 +146,9 @@ std::string joinedByBlanks(const std::string& text) {
 }
 
 TEST(RtfWriterTest, AnotherReaderFindsTheSameText) {
-    const auto directory = std::filesystem::temp_directory_path();
-    const std::string source = (directory / "caudalera-writer-test.rtf").string();
-    const std::string result = (directory / "caudalera-writer-test.txt").string();
+    const TemporaryFolder folder;
+    const std::string source = folder.file("test.rtf");
+    const std::string result = folder.file("test.txt");
     if (std::system(("unrtf --version > \"" + result + "\" 2>&1").c_str()) != 0) {
         GTEST_SKIP() << "unrtf is not installed";
     }
@@ -169,8 +169,6 @@ TEST(RtfWriterTest, AnotherReaderFindsTheSameText) {
     ASSERT_EQ(std::system(("unrtf --text \"" + source + "\" > \"" + result + "\"").c_str()), 0);
     std::ifstream file(result, std::ios::binary);
     const std::string output{std::istreambuf_iterator<char>(file), {}};
-    std::filesystem::remove(source);
-    std::filesystem::remove(result);
 
     // Its own heading ends in a rule. It writes Latin-1, which is Windows-1252 for all that this
     // text holds, and blanks and line ends of its own around tabs.

@@ -1,7 +1,7 @@
 // Lengths, blanks, centring, and the rounding of halves to the even number.
 
 #include "shell/text/Text.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 

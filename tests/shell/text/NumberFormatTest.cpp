@@ -1,8 +1,8 @@
 // The number formatter, by hand-worked cases and against exact decimal arithmetic.
 
 #include "shell/text/Text.h"
-#include "tests/shell/numbers/FailureNumber.h"
 #include "tests/shell/text/ExactDecimal.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Number-to-text conversion and plain text, and their way back through the numeric reading.
 
 #include "shell/text/Text.h"
-#include "tests/shell/numbers/FailureNumber.h"
 #include "tests/shell/text/ExactDecimal.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The numeric reading of a text, by cases and against a slow reader of another make.
 
 #include "shell/text/Text.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "shell/window/Control.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 #include "tests/support/WindowTest.h"
 
 #include <string>

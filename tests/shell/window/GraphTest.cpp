@@ -1,5 +1,5 @@
 #include "shell/window/Graph.h"
-#include "tests/shell/numbers/FailureNumber.h"
+#include "tests/support/FailureNumber.h"
 #include "tests/support/TestSheet.h"
 
 #include <string>

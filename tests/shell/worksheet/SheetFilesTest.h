@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/shell/files/SeriesBytes.h"
+#include "tests/support/SeriesBytes.h"
 #include "tests/support/TestSheet.h"
 
 #include <string>
