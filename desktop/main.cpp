@@ -2,6 +2,7 @@
 #include "desktop/Views.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
+#include "shell/files/FileSizeSignal.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -11,6 +12,7 @@
 #include <cstdio>
 
 int main(int argc, char** argv) {
+    caudalera::ignoreFileSizeSignal();
     QElapsedTimer sinceStart;
     sinceStart.start();
 

@@ -4,6 +4,7 @@
 #include "driver/Driver.h"
 
 #include "shell/files/FilePath.h"
+#include "shell/files/FileSizeSignal.h"
 #include "shell/text/Utf8.h"
 
 #include <iostream>
@@ -33,6 +34,7 @@ std::optional<caudalera::DriverOptions> optionsOf(const std::vector<std::string>
 } // namespace
 
 int main(int argc, char** argv) {
+    caudalera::ignoreFileSizeSignal();
     auto options = optionsOf({argv + 1, argv + argc});
     if (!options) {
         std::cerr << "usage: caudalera-driver [--fixed-dir DIR] [--decimal-separator C]\n";

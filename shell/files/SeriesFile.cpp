@@ -6,6 +6,7 @@
 #include <array>
 #include <bit>
 #include <limits>
+#include <utility>
 
 namespace caudalera {
 
@@ -30,26 +31,22 @@ float fromBytes(const char* bytes) {
 
 SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields, Access access)
     : variables_(variables), fields_(fields) {
-    if (variables.archivoUnoEnUso)
+    if (std::exchange(variables.archivoUnoEnUso, false))
         throw RuntimeFailure(Failure::fileInUse);
     if (path.empty())
         throw RuntimeFailure(Failure::fileNumber);
     const auto file = filePath(path);
-    std::error_code error;
     if (access == Access::read) {
+        std::error_code error;
         if (!std::filesystem::is_regular_file(file, error))
             throw RuntimeFailure(Failure::fileNotFound);
         bytes_ = std::filesystem::file_size(file, error);
-        stream_.open(file, std::ios::in | std::ios::binary);
-    } else {
-        if (std::filesystem::is_directory(file, error))
+        stream_.open(file, std::ios::binary);
+        if (error || !stream_)
             throw RuntimeFailure(Failure::fileAccess);
-        // A file that is still to be made counts as an error of the question.
-        error.clear();
-        stream_.open(file, std::ios::out | std::ios::binary | std::ios::trunc);
+    } else {
+        replacement_.emplace(file);
     }
-    if (error || !stream_)
-        throw RuntimeFailure(Failure::fileAccess);
     variables.archivoUnoEnUso = true;
 }
 
@@ -87,16 +84,16 @@ std::span<const float> SeriesFile::read() {
 void SeriesFile::write(std::span<const float> record) {
     for (const float field : record) {
         const auto bytes = toBytes(field);
-        if (!stream_.write(bytes.data(), bytes.size()))
-            throw RuntimeFailure(Failure::fileAccess);
+        replacement_->write({bytes.data(), bytes.size()});
     }
 }
 
 void SeriesFile::close() {
-    stream_.close();
-    if (!stream_)
-        throw RuntimeFailure(Failure::fileAccess);
+    // A fault of the disk leaves nothing open.
     variables_.archivoUnoEnUso = false;
+    stream_.close();
+    if (replacement_)
+        replacement_->commit();
 }
 
 } // namespace caudalera

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "shell/files/SafeFile.h"
 #include "shell/files/Variables.h"
 
 #include <cstdint>
 #include <fstream>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -11,23 +13,24 @@ namespace caudalera {
 
 /// File number 1 opened for random access: fixed-length records of little-endian singles with no
 /// header. Closing is a step of its own: a command that fails before it leaves the number in use,
-/// and every later opening fails.
+/// and the next opening fails and frees it.
 class SeriesFile {
 public:
     enum class Access { read, replace };
 
-    /// Opens under number 1 with records of `fields` singles. To read, the file must exist (failure
-    /// 53); to replace, it is created or emptied. Failure 55 while the number is in use, 52 for an
-    /// empty name, 75 for a file that cannot be opened.
+    /// Opens under number 1 with records of `fields` singles. To read, it must be a regular file
+    /// that exists (failure 53); to replace, it stays as it is until the new one is closed. Failure
+    /// 55 if the number is in use, 52 for an empty name, 75 for a file that cannot be opened.
     SeriesFile(Variables& variables, const std::string& path, int fields, Access access);
 
     /// Records that the file holds, a partial last one left out; failure 6 past 16 bits.
     Integer16 records() const;
     /// The next record; the buffer of `variables` for this width holds it. Failure 75 at the end.
     std::span<const float> read();
-    /// Appends a record; failure 75 if it cannot be written.
+    /// Appends a record.
     void write(std::span<const float> record);
-    /// Frees number 1; failure 75 if what was written cannot be stored.
+    /// Frees number 1 and puts what was written in the place of the file; failure 75 if the disk
+    /// refuses it, and then a file of that name stays as it was.
     void close();
 
 private:
@@ -36,7 +39,8 @@ private:
     Variables& variables_;
     int fields_;
     std::uintmax_t bytes_ = 0;
-    std::fstream stream_;
+    std::ifstream stream_;
+    std::optional<SafeFile> replacement_;
 };
 
 } // namespace caudalera

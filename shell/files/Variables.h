@@ -21,7 +21,8 @@ struct Variables {
     std::array<float, 2> registroPar{};
     std::array<float, 3> registroTrio{};
     std::array<float, 4> registroCuarteto{};
-    /// A command that failed between open and close leaves it so until the program ends.
+    /// A command that failed between open and close leaves it so; the next opening fails and frees
+    /// it.
     bool archivoUnoEnUso = false;
 };
 

@@ -1,4 +1,5 @@
 #include "tests/driver/DriverProcess.h"
+#include "tests/support/PosixFiles.h"
 
 #include <filesystem>
 #include <fstream>
@@ -67,6 +68,27 @@ TEST_F(DriverPlatformTest, PathsMayHoldAnyCharacter) {
     ok("dialog", {{"answers", {file("añ€ 1.X")}}});
     click(sheet, "bCrear");
     EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(file("")) / u8"añ€ 1.X"));
+}
+
+TEST_F(DriverPlatformTest, AFileThatMayNotGrowSoFarStaysAndTheProgramLives) {
+    openSheet();
+    ok("rows", {{"window", sheet}, {"rows", {{"1"}, {"2"}}}});
+    ok("dialog", {{"answers", {file("a.X")}}});
+    click(sheet, "bCrear");
+    ASSERT_EQ(sizeOf("a.X"), 8U);
+
+    const FileSizeLimit limit(9);
+    DriverProcess limited;
+    const auto act = [&](json request) { return json::parse(limited.exchange(request.dump())); };
+    act({{"op", "menu"}, {"entry", "mparanoagru"}});
+    act({{"op", "rows"}, {"window", sheet}, {"rows", {{"3"}, {"4"}, {"5"}}}});
+    act({{"op", "dialog"}, {"answers", {file("a.X")}}});
+    const json reply = act({{"op", "click"}, {"window", sheet}, {"control", "bCrear"}});
+    EXPECT_EQ(reply["ok"], true);
+    EXPECT_EQ(reply["messages"], json::array());
+    EXPECT_EQ(reply["ended"], nullptr);
+    EXPECT_EQ(limited.finish(), 0);
+    EXPECT_EQ(sizeOf("a.X"), 8U);
 }
 
 TEST_F(DriverPlatformTest, ADocumentThatIsNoUtf8IsToldInUtf8) {

@@ -1,6 +1,9 @@
 #include "shell/files/SeriesFile.h"
+#include "shell/files/FileSizeSignal.h"
 #include "tests/support/FailureNumber.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/SeriesBytes.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,19 +16,9 @@ namespace {
 
 using testing::failureNumber;
 
-/// A folder of its own for every test.
 class SeriesFileTest : public ::testing::Test {
 protected:
-    SeriesFileTest()
-        : folder(std::filesystem::temp_directory_path() /
-                 (std::string("caudalera-series-") +
-                  ::testing::UnitTest::GetInstance()->current_test_info()->name())) {
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
-    }
-    ~SeriesFileTest() override { std::filesystem::remove_all(folder); }
-
-    std::string path(const std::string& name = "a.X") const { return (folder / name).string(); }
+    std::string path(const std::string& name = "a.X") const { return folder.file(name); }
     void save(int fields, const std::vector<float>& values) {
         SeriesFile file(variables, path(), fields, SeriesFile::Access::replace);
         const auto width = static_cast<std::size_t>(fields);
@@ -37,7 +30,7 @@ protected:
         return SeriesFile(variables, path(), fields, SeriesFile::Access::read);
     }
 
-    std::filesystem::path folder;
+    TemporaryFolder folder;
     Variables variables;
 };
 
@@ -108,33 +101,90 @@ TEST_F(SeriesFileTest, AFileThatCannotBeOpenedLeavesTheNumberFree) {
     EXPECT_EQ(access("", SeriesFile::Access::replace), 52);
     EXPECT_EQ(access(path("none.X"), SeriesFile::Access::read), 53);
     EXPECT_FALSE(std::filesystem::exists(path("none.X"))) << "reading creates nothing";
-    EXPECT_EQ(access(folder.string(), SeriesFile::Access::read), 53);
-    EXPECT_EQ(access(folder.string(), SeriesFile::Access::replace), 75);
+    EXPECT_EQ(access(folder.path().string(), SeriesFile::Access::read), 53);
+    EXPECT_EQ(access(folder.path().string(), SeriesFile::Access::replace), 75);
     EXPECT_EQ(access(path("none/a.X"), SeriesFile::Access::replace), 75);
     EXPECT_FALSE(variables.archivoUnoEnUso);
 }
 
 TEST_F(SeriesFileTest, TheNumberIsInUseUntilTheFileIsClosed) {
     save(1, {1});
-    {
-        SeriesFile file = opened(1);
-        EXPECT_TRUE(variables.archivoUnoEnUso);
-        EXPECT_EQ(failureNumber([&] { opened(1); }), 55);
-        file.close();
-    }
+    SeriesFile file = opened(1);
+    EXPECT_TRUE(variables.archivoUnoEnUso);
+    file.close();
     EXPECT_FALSE(variables.archivoUnoEnUso);
-    { const SeriesFile left = opened(1); }
-    EXPECT_EQ(failureNumber([&] { opened(1); }), 55) << "closing is a step of its own";
-    EXPECT_EQ(failureNumber([&] { save(1, {2}); }), 55);
-    EXPECT_EQ(bytesOf(path()).size(), 4U);
 }
+
+TEST_F(SeriesFileTest, ANumberLeftInUseFailsTheNextOpeningOnly) {
+    save(1, {1});
+    { const SeriesFile left = opened(1); }
+    EXPECT_TRUE(variables.archivoUnoEnUso) << "closing is a step of its own";
+    EXPECT_EQ(failureNumber([&] { opened(1); }), 55);
+    EXPECT_EQ(failureNumber([&] { opened(1); }), 0);
+    EXPECT_EQ(failureNumber([&] { save(1, {2, 3}); }), 55) << "that one was not closed either";
+    EXPECT_EQ(bytesOf(path()).size(), 4U);
+    save(1, {2, 3});
+    EXPECT_EQ(bytesOf(path()).size(), 8U);
+}
+
+TEST_F(SeriesFileTest, ANumberLeftInUseIsFreedAlsoByAnOpeningThatWouldFailAnyway) {
+    save(1, {1});
+    for (const std::string& other : {std::string(), path("none.X"), path("none/a.X")}) {
+        { const SeriesFile left = opened(1); }
+        EXPECT_EQ(failureNumber([&] { SeriesFile(variables, other, 1, SeriesFile::Access::read); }),
+                  55);
+        EXPECT_FALSE(variables.archivoUnoEnUso);
+    }
+}
+
+TEST_F(SeriesFileTest, AFileThatIsNotClosedStaysAsItWas) {
+    save(1, {1});
+    const Bytes before = bytesOf(path());
+    {
+        SeriesFile file(variables, path(), 1, SeriesFile::Access::replace);
+        file.write(std::array{2.0F});
+        EXPECT_EQ(bytesOf(path()), before);
+    }
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_TRUE(variables.archivoUnoEnUso);
+}
+
+#ifdef CAUDALERA_POSIX_FILES
+TEST_F(SeriesFileTest, ADiskThatIsFullAtAnyByteLeavesTheFileWholeAndTheNumberFree) {
+    ignoreFileSizeSignal();
+    save(2, {1, 2, 3, 4});
+    const Bytes before = bytesOf(path());
+    for (std::size_t room = 0; room < 24; ++room) {
+        {
+            const FileSizeLimit limit(room);
+            ASSERT_EQ(failureNumber([&] { save(2, {9, 8, 7, 6, 5, 4}); }), 75) << room;
+        }
+        ASSERT_EQ(bytesOf(path()), before) << room;
+        ASSERT_FALSE(variables.archivoUnoEnUso) << room;
+    }
+    const FileSizeLimit limit(24);
+    save(2, {9, 8, 7, 6, 5, 4});
+    EXPECT_EQ(bytesOf(path()).size(), 24U);
+}
+
+TEST_F(SeriesFileTest, APipeHoldsNobody) {
+    ASSERT_TRUE(makeNamedPipe(path("pipe")));
+    EXPECT_EQ(
+        failureNumber([&] { SeriesFile(variables, path("pipe"), 1, SeriesFile::Access::read); }),
+        53);
+    EXPECT_EQ(
+        failureNumber([&] { SeriesFile(variables, path("pipe"), 1, SeriesFile::Access::replace); }),
+        75);
+    EXPECT_FALSE(variables.archivoUnoEnUso);
+}
+#endif
 
 TEST_F(SeriesFileTest, NamesMayHoldAnyCharacter) {
     const std::string name = path("año ñandú €.X");
     SeriesFile file(variables, name, 1, SeriesFile::Access::replace);
     file.write(std::array{1.0F});
     file.close();
-    EXPECT_TRUE(std::filesystem::exists(folder / u8"año ñandú €.X"));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / u8"año ñandú €.X"));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
+#include "shell/files/FileSizeSignal.h"
 #include "shell/files/TextFile.h"
 #include "shell/report/frmPadre.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/WindowTest.h"
 
 #include <string>
@@ -104,6 +106,34 @@ TEST_F(ReportFilesTest, ASaveAsThatCannotBeWrittenIsFatal) {
     click("mnuFileSaveAs", {file("none/a.rtf")});
     EXPECT_TRUE(fatal(75));
 }
+
+#ifdef CAUDALERA_POSIX_FILES
+TEST_F(ReportFilesTest, ASaveThatTheDiskBreaksOffIsFatalAndLeavesTheFileWhole) {
+    ignoreFileSizeSignal();
+    write("uno");
+    click("mnuFileSaveAs", {file("a.rtf")});
+    const std::string before = leerArchivo(file("a.rtf"));
+    write(" dos");
+    {
+        const FileSizeLimit limit(before.size());
+        click("mnuFileSave");
+    }
+    EXPECT_TRUE(fatal(75));
+    EXPECT_EQ(leerArchivo(file("a.rtf")), before);
+}
+
+TEST_F(ReportFilesTest, OpeningAPipeIsFatalAndHoldsNobody) {
+    ASSERT_TRUE(makeNamedPipe(file("pipe")));
+    click("mnuFileOpen", {file("pipe")});
+    EXPECT_TRUE(fatal(75));
+}
+
+TEST_F(ReportFilesTest, SavingToAPipeIsFatalAndHoldsNobody) {
+    ASSERT_TRUE(makeNamedPipe(file("pipe")));
+    click("mnuFileSaveAs", {file("pipe")});
+    EXPECT_TRUE(fatal(75));
+}
+#endif
 
 TEST_F(ReportFilesTest, WithoutADocumentTheOtherCommandsDoNothing) {
     closeAll();

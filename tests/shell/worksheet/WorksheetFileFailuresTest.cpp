@@ -1,4 +1,6 @@
+#include "shell/files/FileSizeSignal.h"
 #include "tests/shell/worksheet/SheetFilesTest.h"
+#include "tests/support/PosixFiles.h"
 
 #include <string>
 #include <vector>
@@ -70,22 +72,63 @@ TEST_F(WorksheetFileFailuresTest, RowsPastTheCapacityAreFatalInSpiteOfTheTrap) {
     EXPECT_FALSE(std::filesystem::exists(file("a.X")));
 }
 
-TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileNumberInUse) {
+TEST_F(WorksheetFileFailuresTest, AValuePastTheSinglesLeavesTheFileWholeAndItsNumberInUse) {
     sheet("hojaUno");
-    values({"1", "1e39"});
+    values({"1"});
     save(file("a.X"));
+    const Bytes before = bytesOf(file("a.X"));
+    values({"2", "1e39"});
+    save(file("a.X"));
+    EXPECT_TRUE(program.variables.archivoUnoEnUso);
+    click("bCrear");
+    save(file("new.X"));
+    EXPECT_TRUE(program.variables.archivoUnoEnUso) << "freed, and left in use again";
     EXPECT_EQ(messages(), std::vector<Message>{});
     EXPECT_FALSE(program.ended());
+    EXPECT_EQ(bytesOf(file("a.X")), before);
+    EXPECT_FALSE(std::filesystem::exists(file("new.X")));
+}
+
+TEST_F(WorksheetFileFailuresTest, ANumberLeftInUseFailsTheNextSaveOfAnyWindowOnly) {
+    sheet("hojaUno");
+    values({"1e39"});
+    save(file("a.X"));
     EXPECT_TRUE(program.variables.archivoUnoEnUso);
-    EXPECT_EQ(bytesOf(file("a.X")).size(), 4U) << "what was written before stays";
 
     sheet("hojaDos");
     rows({{"1", "2"}});
     save(file("b.XY"));
-    EXPECT_FALSE(std::filesystem::exists(file("b.XY"))) << "every later file command fails";
-    load(file("a.X"));
-    EXPECT_EQ(data(), "");
+    EXPECT_FALSE(std::filesystem::exists(file("b.XY")));
+    save(file("b.XY"));
+    EXPECT_EQ(bytesOf(file("b.XY")).size(), 8U);
     EXPECT_EQ(messages(), std::vector<Message>{});
+}
+
+TEST_F(WorksheetFileFailuresTest, ANumberLeftInUseFailsTheNextLoadOfAnyWindowOnly) {
+    sheet("hojaDos");
+    rows({{"1", "2"}});
+    save(file("b.XY"));
+    sheet("hojaUno");
+    values({"1e39"});
+    save(file("a.X"));
+
+    window("hojaDos");
+    load(file("b.XY"));
+    EXPECT_EQ(data(), "");
+    EXPECT_EQ(marks(), "[?]");
+    load(file("b.XY"));
+    EXPECT_EQ(data(), "1.0|2.0");
+    EXPECT_EQ(messages(), std::vector<Message>{});
+}
+
+TEST_F(WorksheetFileFailuresTest, ANumberLeftInUseIsFreedByACancelledCommandToo) {
+    sheet("hojaUno");
+    values({"1e39"});
+    save(file("a.X"));
+    click("bAccesar");
+    values({"1"});
+    save(file("b.X"));
+    EXPECT_EQ(bytesOf(file("b.X")).size(), 4U);
 }
 
 TEST_F(WorksheetFileFailuresTest, ARecordThatIsNoNumberEndsTheLoadWhereItStands) {
@@ -129,6 +172,43 @@ TEST_F(WorksheetFileFailuresTest, WithALastRecordTheGridHoldsOneRecordMore) {
     EXPECT_EQ(hoja.grdt.Rows(), 32767);
     EXPECT_EQ(hoja.n, 32765);
 }
+
+#ifdef CAUDALERA_POSIX_FILES
+TEST_F(WorksheetFileFailuresTest, ADiskThatIsFullAtAnyByteLeavesTheFileWholeAndTheNumberFree) {
+    ignoreFileSizeSignal();
+    sheet("hojaTres");
+    rows({{"1", "2", "3"}});
+    save(file("a.XYZ"));
+    const Bytes before = bytesOf(file("a.XYZ"));
+    rows({{"4", "5", "6"}});
+    for (std::size_t room = 0; room < 24; ++room) {
+        {
+            const FileSizeLimit limit(room);
+            save(file("a.XYZ"));
+            save(file("new.XYZ"));
+        }
+        ASSERT_EQ(bytesOf(file("a.XYZ")), before) << room;
+        ASSERT_FALSE(std::filesystem::exists(file("new.XYZ"))) << room;
+        ASSERT_FALSE(program.variables.archivoUnoEnUso) << room;
+    }
+    EXPECT_EQ(messages(), std::vector<Message>{});
+    EXPECT_FALSE(program.ended());
+    save(file("a.XYZ"));
+    EXPECT_EQ(bytesOf(file("a.XYZ")).size(), 24U) << "the next command works";
+}
+
+TEST_F(WorksheetFileFailuresTest, APipeHoldsNobody) {
+    ASSERT_TRUE(makeNamedPipe(file("pipe")));
+    sheet("hojaUno");
+    values({"1"});
+    save(file("pipe"));
+    EXPECT_EQ(data(), "1.0");
+    load(file("pipe"));
+    EXPECT_EQ(marks(), "[?]");
+    EXPECT_FALSE(program.variables.archivoUnoEnUso);
+    EXPECT_EQ(messages(), std::vector<Message>{});
+}
+#endif
 
 TEST_F(WorksheetFileFailuresTest, AppendingPastThe16BitsIsFatal) {
     sheet("hojaUno");
