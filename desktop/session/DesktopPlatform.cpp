@@ -34,6 +34,11 @@ QString helpFile() {
     return QStringLiteral("Ayuda.chm");
 }
 
+std::string namedOrSystemSeparator() {
+    const QString named = qEnvironmentVariable("CAUDALERA_DECIMAL");
+    return (named.isEmpty() ? QLocale::system().decimalPoint() : named).toStdString();
+}
+
 QSettings settings() {
     return QSettings(QSettings::NativeFormat, QSettings::UserScope, programTitle(), programTitle());
 }
@@ -80,7 +85,8 @@ void printImage(QPrinter& printer, const QPixmap& image) {
     painter.drawPixmap(QRect({(page.width() - size.width()) / 2, 0}, size), image);
 }
 
-DesktopPlatform::DesktopPlatform(Session& session) : session_(session) {}
+DesktopPlatform::DesktopPlatform(Session& session)
+    : session_(session), decimalSeparator_(namedOrSystemSeparator()) {}
 
 DesktopPlatform::~DesktopPlatform() = default;
 
@@ -216,11 +222,6 @@ std::filesystem::path DesktopPlatform::fixedDirectory() {
                                .filePath(QStringLiteral("../share/caudalera")))
         .toStdU16String();
 #endif
-}
-
-std::string DesktopPlatform::decimalSeparator() {
-    const QString named = qEnvironmentVariable("CAUDALERA_DECIMAL");
-    return (named.isEmpty() ? QLocale::system().decimalPoint() : named).toStdString();
 }
 
 void DesktopPlatform::endProgram(const Ending& ending) {

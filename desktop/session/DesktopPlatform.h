@@ -39,7 +39,8 @@ public:
     /// What F1 does: opens the help file, silently nothing if there is none.
     bool openHelp();
     std::filesystem::path fixedDirectory() override;
-    std::string decimalSeparator() override;
+    /// As it was when the program started: every number that is shown asks for it.
+    std::string decimalSeparator() override { return decimalSeparator_; }
     void endProgram(const Ending& ending) override;
 
 private:
@@ -48,6 +49,7 @@ private:
     void showBox(const QString& text, const QString& title, Icon icon) const;
 
     Session& session_;
+    const std::string decimalSeparator_;
     std::unique_ptr<QPrinter> printer_;
 };
 

@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QScopeGuard>
 
 namespace caudalera {
 
@@ -20,7 +21,7 @@ private slots:
     void init() {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         qputenv("CAUDALERA_DIR", folder_.path().toUtf8());
-        desktop_ = std::make_unique<DesktopFixture>();
+        restart();
     }
     void cleanup() {
         const QString boxes = desktop_->unexpectedBoxes();
@@ -96,9 +97,17 @@ private slots:
     }
 
     void theSeparatorIsTheLocalesUnlessOneIsNamed() {
+        const QByteArray usual = qgetenv("CAUDALERA_DECIMAL");
+        const auto restore = qScopeGuard([&usual] { qputenv("CAUDALERA_DECIMAL", usual); });
         qputenv("CAUDALERA_DECIMAL", ",");
+        restart();
         QCOMPARE(platform().decimalSeparator(), std::string(","));
+        qputenv("CAUDALERA_DECIMAL", "·");
+        QCOMPARE(platform().decimalSeparator(), std::string(","));
+        restart();
+        QCOMPARE(platform().decimalSeparator(), std::string("·"));
         qunsetenv("CAUDALERA_DECIMAL");
+        restart();
         QCOMPARE(QString::fromStdString(platform().decimalSeparator()),
                  QLocale::system().decimalPoint());
     }
@@ -157,6 +166,10 @@ private slots:
     }
 
 private:
+    void restart() {
+        desktop_.reset();
+        desktop_ = std::make_unique<DesktopFixture>();
+    }
     DesktopPlatform& platform() {
         return desktop_->session.platform();
     }
