@@ -2,7 +2,7 @@
 
 #include "evapotranspiration/radiacionSolar.h"
 #include "evapotranspiration/tablasSolares.h"
-#include "shell/numbers/RuntimeFailure.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -12,17 +12,9 @@
 namespace caudalera {
 namespace {
 
-constexpr double degree = std::numbers::pi / 180;
+using testing::failureNumber;
 
-template <typename Action>
-int failureNumber(Action action) {
-    try {
-        action();
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
+constexpr double degree = std::numbers::pi / 180;
 
 TEST(SolarTables, NamesTheMonthsExactly) {
     EXPECT_EQ(numeroDeMes("Enero"), 1);

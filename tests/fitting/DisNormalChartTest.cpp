@@ -21,8 +21,7 @@ protected:
 TEST_F(DisNormalChart, NeedsACalculation) {
     values({"1", "2", "3", "4"});
     click("bGraficar");
-    EXPECT_EQ(messages(), (std::vector<Message>{{"Efectuar cálculos antes de graficar",
-                                                 "Mensaje de Error", Icon::error}}));
+    expectMessage({"Efectuar cálculos antes de graficar", "Mensaje de Error", Icon::error});
     EXPECT_FALSE(chart().visible);
 }
 

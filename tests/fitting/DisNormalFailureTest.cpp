@@ -45,8 +45,7 @@ TEST_F(DisNormalFailure, FirstFailureLeavesTheGateClosed) {
     fit({"1", "2", "3"});
     messages();
     click("bGraficar");
-    EXPECT_EQ(messages(), (std::vector<Message>{{"Efectuar cálculos antes de graficar",
-                                                 "Mensaje de Error", Icon::error}}));
+    expectMessage({"Efectuar cálculos antes de graficar", "Mensaje de Error", Icon::error});
 }
 
 // 5, 6, 7 stop in the linear moments: mean and S are those of the new data, what is linear is that

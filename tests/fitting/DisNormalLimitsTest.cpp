@@ -37,8 +37,7 @@ TEST_F(DisNormalLimits, FiveHundredValuesFailInTheLastRowWhichLeavesTheOthers) {
     EXPECT_EQ(text("lblAjuste"), "Ajuste con momentos ordinarios:");
     EXPECT_EQ(text("lblmensaje"), "");
     click("bGraficar");
-    EXPECT_EQ(messages(), (std::vector<Message>{{"Efectuar cálculos antes de graficar",
-                                                 "Mensaje de Error", Icon::error}}));
+    expectMessage({"Efectuar cálculos antes de graficar", "Mensaje de Error", Icon::error});
 }
 
 TEST_F(DisNormalLimits, FailedCalculationOf500ValuesDrawsThemIfTheGateWasOpen) {

@@ -101,10 +101,9 @@ TEST_F(DisNormalReport, WorksOnceMoreBehindTheFirst) {
 TEST_F(DisNormalReport, FiveHundredRowsEndInTheMessage) {
     load(countingSeries(500));
     click("bReporte");
-    EXPECT_EQ(messages(),
-              (std::vector<Message>{{"No se puede editar el reporte: "
-                                     "Ajuste de una serie de datos a la distribución normal",
-                                     "Mensaje de error", Icon::information}}));
+    expectMessage({"No se puede editar el reporte: "
+                   "Ajuste de una serie de datos a la distribución normal",
+                   "Mensaje de error", Icon::information});
     EXPECT_FALSE(program.ended());
     const std::string whole = report();
     EXPECT_NE(whole.find(" 500\t\t500.0\t\t\n" + rule(40)), std::string::npos);

@@ -28,9 +28,8 @@ protected:
         EXPECT_TRUE(control<Graph>("Graph1").series().empty());
         messages();
         click("bQ");
-        EXPECT_EQ(messages(),
-                  (std::vector<Message>{{"Efectuar cálculos antes de evaluar caudal de diseño",
-                                         "Mensaje de Error", Icon::error}}));
+        expectMessage({"Efectuar cálculos antes de evaluar caudal de diseño", "Mensaje de Error",
+                       Icon::error});
     }
 };
 

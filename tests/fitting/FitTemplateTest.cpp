@@ -201,8 +201,7 @@ TEST_F(FitTemplate, FailureShowsTheWindowsOwnMessageAndStopsWhereItStands) {
     // No data: the largest delta of none is 0, and the division by the root of 0 fails behind the
     // fields.
     program.click(probe.bCalcular);
-    EXPECT_EQ(messages(),
-              (std::vector<Message>{{"Fallo propio", "Mensaje de error", Icon::information}}));
+    expectMessage({"Fallo propio", "Mensaje de error", Icon::information});
     EXPECT_EQ(probe.txtuno.text(), "1.5");
     EXPECT_EQ(probe.lblmensaje.caption, "antes");
 }

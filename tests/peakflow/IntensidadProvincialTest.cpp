@@ -1,7 +1,7 @@
 // The equations of the largest intensity, province by province.
 
 #include "peakflow/intensidadProvincial.h"
-#include "shell/numbers/RuntimeFailure.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,7 @@ namespace caudalera {
 namespace {
 
 int failureOf(Provincia provincia, double D, double T) {
-    try {
-        intensidadProvincial(provincia, D, T);
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
+    return testing::failureNumber([&] { intensidadProvincial(provincia, D, T); });
 }
 
 // Worked out in 40 decimal digits: ln 30 = 3.401197381662155, ln 50 = 3.912023005428146. The

@@ -63,7 +63,7 @@ TEST_F(RacionalTest, LengthAndDropAreHeldInSingles) {
     // A drop below the single range is 0, one past it a failure without a message.
     enter("txtHi", "1e-50");
     click("bcalcularI");
-    expectMessage("El valor para el desnivel H no puede ser 0", "Error");
+    expectMessage({"El valor para el desnivel H no puede ser 0", "Error"});
     enter("txtHi", "1e39");
     enter("txtLi", "1");
     click("bcalcularI");
@@ -74,7 +74,7 @@ TEST_F(RacionalTest, LengthAndDropAreHeldInSingles) {
 TEST_F(RacionalTest, AMissingKnownDurationStops) {
     click("optDuracionAdiSi");
     click("bcalcularI");
-    expectMessage("Ingresar un valor adecuado para la duración D ó tc", "Error");
+    expectMessage({"Ingresar un valor adecuado para la duración D ó tc", "Error"});
     EXPECT_EQ(focus(), "txtDuracionAdi");
     EXPECT_EQ(results(), "||");
     EXPECT_FALSE(form.calculado());
@@ -84,19 +84,19 @@ TEST_F(RacionalTest, AMissingKnownDurationStops) {
 TEST_F(RacionalTest, AFaultOfTheConcentrationTimeShowsItsFirstMessageAndGoesOn) {
     enter("txtTi", "10");
     click("bcalcularI");
-    expectMessage(faltaL, "Error");
+    expectMessage({faltaL, "Error"});
     EXPECT_EQ(focus(), "txtLi");
     EXPECT_EQ(results(), "0.0|0.0|0.0");
     EXPECT_TRUE(form.calculado());
 
     enter("txtLi", "1000");
     click("bcalcularI");
-    expectMessage(faltaH, "Error");
+    expectMessage({faltaH, "Error"});
     EXPECT_EQ(focus(), "txtHi");
 
     enter("txtHi", "0");
     click("bcalcularI");
-    expectMessage("El valor para el desnivel H no puede ser 0", "Error");
+    expectMessage({"El valor para el desnivel H no puede ser 0", "Error"});
     EXPECT_EQ(text("txtHi"), "");
     EXPECT_EQ(focus(), "txtHi");
     EXPECT_EQ(results(), "0.0|0.0|0.0");
@@ -105,7 +105,7 @@ TEST_F(RacionalTest, AFaultOfTheConcentrationTimeShowsItsFirstMessageAndGoesOn) 
 TEST_F(RacionalTest, AMissingReturnPeriodShowsItsMessageAndGoesOn) {
     duration("30", "");
     click("bcalcularI");
-    expectMessage(faltaT, "Error");
+    expectMessage({faltaT, "Error"});
     EXPECT_EQ(focus(), "txtTi");
     EXPECT_EQ(results(), "30.0|0.0|0.0");
 }

@@ -103,7 +103,7 @@ TEST_F(RacionalFilesTest, OneTrioMoreIsToldByTheIntensityAndFatalForTheFile) {
     loadFile(file("501.TDI"));
     EXPECT_EQ(form.grdt.Rows(), 503);
     click("bcalcularI");
-    expectMessage(mensajeDePotencial);
+    expectMessage({mensajeDePotencial, ""});
     save(file("b.TDI"));
     EXPECT_TRUE(fatal(9));
 }

@@ -41,15 +41,15 @@ TEST_F(RacionalFlowTest, ATextThatIsNoNumberIsZero) {
 TEST_F(RacionalFlowTest, AsksForTheFirstMissingValueOnly) {
     const std::string title = "Error por dato inadecuado";
     click("bCalcular");
-    expectMessage("Ingresar un valor adecuado para C", title);
+    expectMessage({"Ingresar un valor adecuado para C", title});
     EXPECT_EQ(focus(), "txtcq");
     enter("txtcq", "0.5");
     click("bCalcular");
-    expectMessage("Ingresar un valor adecuado para el área", title);
+    expectMessage({"Ingresar un valor adecuado para el área", title});
     EXPECT_EQ(focus(), "txtaq");
     enter("txtaq", "36");
     click("bCalcular");
-    expectMessage("Ingresar un valor adecuado para la Imáx", title);
+    expectMessage({"Ingresar un valor adecuado para la Imáx", title});
     EXPECT_EQ(focus(), "txtiq");
     EXPECT_EQ(text("txtqmax"), "");
 }

@@ -53,7 +53,7 @@ TEST_F(RacionalTest, ATextOutsideTheTablesHasAnEmptyCoefficient) {
 TEST_F(RacionalTest, AGroupNeedsItsArea) {
     choose("cboZUrbana", "techados");
     click("bAgregar");
-    expectMessage("Ingresar dato en forma adecuada");
+    expectMessage({"Ingresar dato en forma adecuada", ""});
     EXPECT_EQ(focus(), "txtac");
     EXPECT_EQ(text("txtgrupo"), " 1");
     EXPECT_EQ(rowText("grdC", 1), "|||||");

@@ -70,7 +70,7 @@ TEST_F(RacionalProvincesTest, TakeReturnPeriodsUpTo200) {
     EXPECT_EQ(intensity("optSanJose", "10", "200"), "10.0|171.44|171.44");
     EXPECT_TRUE(messages().empty());
     EXPECT_EQ(intensity("optSanJose", "20", "200.5"), "10.0|171.44|171.44");
-    expectMessage("Para este método el período de retorno T no puede ser mayor de 200", "Error");
+    expectMessage({"Para este método el período de retorno T no puede ser mayor de 200", "Error"});
     EXPECT_EQ(text("txtTi"), "");
     EXPECT_EQ(focus(), "txtTi");
 }

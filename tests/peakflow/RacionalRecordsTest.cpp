@@ -52,7 +52,7 @@ TEST_F(RacionalTest, TheFitTakesAReturnPeriodOfZero) {
     duration("16", "");
     records(triosDeLaSuperficie);
     click("bcalcularI");
-    expectMessage("Ingresar un valor adecuado para el período de retorno T", "Error");
+    expectMessage({"Ingresar un valor adecuado para el período de retorno T", "Error"});
     EXPECT_EQ(results(), "16.0|0.0|0.0");
 }
 
@@ -66,7 +66,7 @@ TEST_F(RacionalTest, FewerThanFourTriosKeepTheIntensityAndGoOn) {
     cell("grdt", 1, 2);
     enter("txtDuracionAdi", "45");
     click("bcalcularI");
-    expectMessage(faltanTrios, "", Icon::error);
+    expectMessage({faltanTrios, "", Icon::error});
     EXPECT_EQ(focus(), "grdt");
     EXPECT_EQ(form.grdt.Row(), 4);
     EXPECT_EQ(form.grdt.Col(), 1);
@@ -80,7 +80,7 @@ TEST_F(RacionalTest, NoTrioAtAllIsTooFew) {
     duration("30", "500");
     click("optRegistros");
     click("bcalcularI");
-    expectMessage(faltanTrios, "", Icon::error);
+    expectMessage({faltanTrios, "", Icon::error});
     EXPECT_EQ(form.grdt.Row(), 1);
     EXPECT_EQ(results(), "30.0|0.0|0.0");
 }
@@ -90,7 +90,7 @@ TEST_F(RacionalTest, ASingularSystemWritesNothing) {
     duration("30", "50");
     records({{"1", "10", "90"}, {"1", "20", "70"}, {"1", "30", "60"}, {"1", "60", "40"}});
     click("bcalcularI");
-    expectMessage("El sistema que se origina tiene infinitas soluciones", "", Icon::error);
+    expectMessage({"El sistema que se origina tiene infinitas soluciones", "", Icon::error});
     EXPECT_EQ(results(), "||");
     EXPECT_FALSE(shown("lblecuacioni"));
     EXPECT_FALSE(form.calculado());
@@ -104,7 +104,7 @@ TEST_F(RacionalTest, ARecordOfZeroOrLessIsToldAndWritesNothing) {
         trios.push_back(bad);
         records(trios);
         click("bcalcularI");
-        expectMessage(mensajeDePotencial);
+        expectMessage({mensajeDePotencial, ""});
     }
     EXPECT_EQ(results(), "||");
     EXPECT_FALSE(shown("txtecuacioni"));
@@ -116,7 +116,7 @@ TEST_F(RacionalTest, AFailureOfTheEvaluationShowsNoEquation) {
     duration("16", "0");
     records({{"4", "16", "100"}, {"4", "256", "50"}, {"16", "16", "50"}, {"16", "256", "25"}});
     click("bcalcularI");
-    expectMessage(mensajeDePotencial);
+    expectMessage({mensajeDePotencial, ""});
     EXPECT_EQ(results(), "||");
     EXPECT_FALSE(shown("txtecuacioni"));
     // T = 4, D = 16 lies on the first record.
@@ -133,7 +133,7 @@ TEST_F(RacionalTest, AFailureOfTheDurationIsToldWithRecords) {
     enter("txtHi", "50");
     enter("txtTi", "10");
     click("bcalcularI");
-    expectMessage(mensajeDePotencial);
+    expectMessage({mensajeDePotencial, ""});
     EXPECT_EQ(results(), "||");
 }
 

@@ -46,14 +46,6 @@ protected:
     }
     /// tc, I and the I handed to the first tab, joined by '|'.
     std::string results() { return text("txttci") + "|" + text("txtImaxi") + "|" + text("txtiq"); }
-    void expectMessage(const std::string& words, const std::string& title = {},
-                       Icon icon = Icon::none) {
-        const auto seen = messages();
-        ASSERT_EQ(seen.size(), 1U);
-        EXPECT_EQ(seen[0].text, words);
-        EXPECT_EQ(seen[0].title, title);
-        EXPECT_EQ(seen[0].icon, icon);
-    }
 };
 
 /// Four records on the surface 400 T^0.5 D^-0.25, exactly: 400*2/2, 400*2/4, 400*4/2, 400*4/4.

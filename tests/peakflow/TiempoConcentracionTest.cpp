@@ -1,7 +1,7 @@
 // Time of concentration.
 
 #include "peakflow/tiempoConcentracion.h"
-#include "shell/numbers/RuntimeFailure.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,7 @@ namespace caudalera {
 namespace {
 
 int failureOf(float L, float H) {
-    try {
-        tiempoConcentracion(L, H);
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
+    return testing::failureNumber([&] { tiempoConcentracion(L, H); });
 }
 
 // exp(0.385 ln(L^3 / H)) in 40 decimal digits. L = 1000, H = 50: L^3 / H = 2e7,

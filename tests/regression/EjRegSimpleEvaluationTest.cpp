@@ -80,7 +80,7 @@ TEST_F(EjRegSimpleTest, RefusesBeforeACalculation) {
 
 TEST_F(EjRegSimpleTest, TheFlagIsAskedBeforeTheEmptyField) {
     click("optLineal");
-    EXPECT_EQ(messages(), std::vector{notCalculated});
+    expectMessage(notCalculated);
     EXPECT_NE(focus(), "txtvxx");
 }
 

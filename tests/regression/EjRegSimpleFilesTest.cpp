@@ -113,7 +113,7 @@ TEST_F(EjRegSimpleTest, DrawingTwiceShowsTheSameOnce) {
 TEST_F(EjRegSimpleTest, RefusesToDrawFewerThanTwoPairs) {
     rows({{"1", "2"}});
     click("bGraficar");
-    EXPECT_EQ(messages(), std::vector{noChart});
+    expectMessage(noChart);
     EXPECT_EQ(focus(), "grdt");
     EXPECT_FALSE(control<Graph>("Graph1").visible);
 }
@@ -123,7 +123,7 @@ TEST_F(EjRegSimpleTest, ARefusedDrawingLeavesTheEarlierOne) {
     click("bGraficar");
     replacePairs({{"1", "2"}});
     click("bGraficar");
-    EXPECT_EQ(messages(), std::vector{noChart});
+    expectMessage(noChart);
     EXPECT_TRUE(control<Graph>("Graph1").visible);
     EXPECT_EQ(control<Graph>("Graph1").points(), 4);
 }

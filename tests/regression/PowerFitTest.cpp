@@ -1,7 +1,7 @@
 // The power fit Imax = K T^m D^n.
 
 #include "regression/ajustePotencial.h"
-#include "shell/numbers/RuntimeFailure.h"
+#include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -19,12 +19,7 @@ std::vector<TrioIntensidad> onTheSurface(double K, double m, double n) {
 }
 
 int failureOf(const std::vector<TrioIntensidad>& trios) {
-    try {
-        ajustePotencial(trios);
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
+    return testing::failureNumber([&] { ajustePotencial(trios); });
 }
 
 // Records built from known constants give them back; the noise is that of the normal equations.

@@ -228,8 +228,8 @@ TEST_F(MenuTest, HelpThatCannotBeStartedIsToldAndTheProgramGoesOn) {
     platform.processesFail = true;
     main();
     click("mayuayu");
-    EXPECT_EQ(messages(), (std::vector<Message>{{"Para obtener la ayuda presionar tecla F1 ",
-                                                 "Mensaje de error", Icon::information}}));
+    expectMessage(
+        {"Para obtener la ayuda presionar tecla F1 ", "Mensaje de error", Icon::information});
     EXPECT_FALSE(program.ended());
     EXPECT_EQ(loaded(), std::vector<std::string>{"frmCaudalera"});
 }

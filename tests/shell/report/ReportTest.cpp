@@ -130,8 +130,8 @@ TEST_F(ReportTest, AFailureEndsTheReportWithItsMessageAndLeavesWhatWasInserted) 
     hoja.piezas = {"antes\n"};
     hoja.filaDelInforme = 2;
     click("bReporte");
-    EXPECT_EQ(messages(), (std::vector<Message>{{"No se puede editar el reporte: Hoja de prueba",
-                                                 "Mensaje de error", Icon::information}}));
+    expectMessage(
+        {"No se puede editar el reporte: Hoja de prueba", "Mensaje de error", Icon::information});
     EXPECT_EQ(report(), bloque + "antes\n");
     EXPECT_FALSE(program.ended());
     rows({{"1", "2", "3"}});

@@ -44,9 +44,7 @@ TEST_F(WorksheetFileFailuresTest, OnlyTheDialogsOwnErrorHasAMessage) {
     auto& hoja = sheet("hojaUno");
     hoja.falloAlLeer = Failure::dialogCancelled;
     save(file("a.X"));
-    EXPECT_EQ(messages(),
-              (std::vector<Message>{
-                  {"Error desconocido al salvar el archivo " + file("a.X"), "", Icon::none}}));
+    expectMessage({"Error desconocido al salvar el archivo " + file("a.X"), ""});
     hoja.falloAlLeer = Failure::divisionByZero;
     save(file("a.X"));
     EXPECT_EQ(messages(), std::vector<Message>{});
@@ -54,9 +52,7 @@ TEST_F(WorksheetFileFailuresTest, OnlyTheDialogsOwnErrorHasAMessage) {
     save(file("a.X"));
     hoja.falloTrasAccesar = Failure::dialogCancelled;
     load(file("a.X"));
-    EXPECT_EQ(messages(),
-              (std::vector<Message>{
-                  {"Error desconocido al abrir el archivo " + file("a.X"), "", Icon::none}}));
+    expectMessage({"Error desconocido al abrir el archivo " + file("a.X"), ""});
     hoja.falloTrasAccesar = Failure::index;
     load(file("a.X"));
     EXPECT_EQ(messages(), std::vector<Message>{});
