@@ -228,7 +228,7 @@ void FitWorksheet::graficar() {
     if (!hayCalculo(ajusteCalculado, {mensajeGraficoSinCalculo, "Mensaje de Error", Icon::error}) ||
         !hayPuntos(conteoDatos, graficoDeDosPuntos()))
         return;
-    LineChart chart;
+    Chart chart;
     chart.x.emplace(1, 0.0);
     for (long m = 1; m <= conteoDatos; ++m)
         chart.x->push_back(serieOrdenada[m].value());
@@ -239,7 +239,7 @@ void FitWorksheet::graficar() {
             series.y.push_back((*curva.serie)[m].value());
         chart.series.push_back(std::move(series));
     }
-    dibujarLineas(Graph1, std::move(chart));
+    dibujar(Graph1, std::move(chart));
 }
 
 bool FitWorksheet::admitirMandato(std::string_view sinCalculo, const TextBox& campo,

@@ -168,7 +168,7 @@ void frmEjRegSimple::graficar() {
         setFocus(grdt);
         return;
     }
-    LineChart grafico;
+    Chart grafico;
     grafico.style = 1;
     grafico.autoAdvance = false;
     grafico.x.emplace();
@@ -177,7 +177,7 @@ void frmEjRegSimple::graficar() {
         grafico.x->push_back(X_[i].value());
         grafico.series.front().y.push_back(Y_[i].value());
     }
-    dibujarLineas(Graph1, std::move(grafico));
+    dibujar(Graph1, std::move(grafico));
 }
 
 void frmEjRegSimple::escribirReporte(ReportWriter& reporte) {

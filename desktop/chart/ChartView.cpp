@@ -36,6 +36,23 @@ std::vector<double> positionsOf(const Graph& graph, std::size_t count) {
     return ranks;
 }
 
+QString captionOf(const std::vector<Label*>& labels) {
+    QStringList captions;
+    for (const Label* label : labels) {
+        if (label->visible)
+            captions.append(text(label->caption));
+    }
+    return captions.join(u' ');
+}
+
+/// Length of the longest caption that an axis can have, whichever of its labels are visible.
+int longestCaption(const QFontMetrics& metrics, const std::vector<Label*>& labels) {
+    int length = 0;
+    for (const Label* label : labels)
+        length = std::max(length, metrics.horizontalAdvance(text(label->caption)));
+    return length;
+}
+
 /// Gives a range room around its data; one that does not span anything gets some width, and one
 /// that lies on one side of zero does not cross it, but for what touches zero itself.
 QCPRange withMargins(QCPRange range, double share) {
@@ -83,7 +100,10 @@ QSize ChartView::sizeHint() const {
 }
 
 QSize ChartView::minimumSizeHint() const {
-    return {34 * style::unit(), 22 * style::unit()};
+    // What stands beside the length of an axis: its neighbour's ticks and caption, the margins.
+    const int beside = 12 * style::unit();
+    return {std::max(34 * style::unit(), longestCaption(fontMetrics(), graph_.xLabels) + beside),
+            std::max(22 * style::unit(), longestCaption(fontMetrics(), graph_.yLabels) + beside)};
 }
 
 void ChartView::build() {
@@ -149,12 +169,25 @@ void ChartView::connectMouse() {
 }
 
 void ChartView::sync() {
+    const bool renamed = nameAxes();
     if (revision_ != graph_.revision()) {
         revision_ = graph_.revision();
         read();
+    } else if (renamed) {
+        plot_->replot();
     }
     if (isHidden() == graph_.visible)
         setVisible(graph_.visible);
+}
+
+bool ChartView::nameAxes() {
+    const QString x = captionOf(graph_.xLabels);
+    const QString y = captionOf(graph_.yLabels);
+    if (plot_->xAxis->label() == x && plot_->yAxis->label() == y)
+        return false;
+    plot_->xAxis->setLabel(x);
+    plot_->yAxis->setLabel(y);
+    return true;
 }
 
 void ChartView::read() {
@@ -165,8 +198,6 @@ void ChartView::read() {
     plot_->plotLayout()->simplify();
     for (QCPAxis* far : {plot_->xAxis2, plot_->yAxis2})
         far->setVisible(graph_.border());
-    plot_->xAxis->setLabel(text(graph_.xCaption));
-    plot_->yAxis->setLabel(text(graph_.yCaption));
 
     if (std::any_of(graph_.series().begin(), graph_.series().end(),
                     [](const Graph::Series& series) { return !series.legend.empty(); }))

@@ -16,8 +16,8 @@ class ChartTicker;
 
 /// Shows a chart of the model. It scales itself to the data; the wheel zooms at the pointer, a
 /// drag over the drawing zooms into the rectangle it draws, a drag with Shift moves the drawing,
-/// a double click goes back to the whole. While the chart is not visible the view is hidden and
-/// its room stays free.
+/// a double click goes back to the whole. Points that are not set are not drawn. While the chart is
+/// not visible the view is hidden and its room stays free.
 class ChartView : public QWidget {
     Q_OBJECT
 
@@ -44,6 +44,8 @@ private:
     void build();
     void connectMouse();
     void applyFonts();
+    /// Whether the captions of the axes have changed.
+    bool nameAxes();
     void read();
     void addLegend();
     void addSeries(const std::vector<double>& x, const Graph::Series& series, int index);

@@ -2,7 +2,20 @@
 
 #include "shell/numbers/RuntimeFailure.h"
 
+#include <algorithm>
+
 namespace caudalera {
+
+namespace {
+
+long longest(const std::vector<Graph::Series>& series) {
+    std::size_t count = 0;
+    for (const Graph::Series& each : series)
+        count = std::max(count, each.y.size());
+    return static_cast<long>(count);
+}
+
+} // namespace
 
 Graph::Graph(Window& window, std::string name)
     : Control(window, std::move(name), ControlKind::chart) {
@@ -26,8 +39,14 @@ void Graph::setLegend(std::size_t series, std::string legend) {
     series_[series].legend = std::move(legend);
 }
 
+void Graph::setX(std::vector<double> positions) {
+    if (static_cast<long>(positions.size()) > points_)
+        throw RuntimeFailure(Failure::index);
+    x_ = std::move(positions);
+}
+
 void Graph::setY(std::size_t series, std::vector<double> values) {
-    if (series >= series_.size())
+    if (series >= series_.size() || static_cast<long>(values.size()) > points_)
         throw RuntimeFailure(Failure::index);
     series_[series].y = std::move(values);
 }
@@ -46,14 +65,14 @@ void Graph::clear() {
     ++revision_;
 }
 
-void dibujarLineas(Graph& graph, LineChart chart) {
-    graph.setKind(Graph::Kind::line, chart.style);
+void dibujar(Graph& graph, Chart chart) {
+    graph.setKind(chart.kind, chart.style);
     graph.setBackgroundColor(7);
     graph.setBorder(true);
     graph.visible = true;
     graph.setAutoAdvance(chart.autoAdvance);
-    const auto points = chart.series.empty() ? 0 : chart.series.front().y.size();
-    graph.setSize(static_cast<long>(points), static_cast<long>(chart.series.size()));
+    graph.setSize(chart.points.value_or(longest(chart.series)),
+                  static_cast<long>(chart.series.size()));
     for (std::size_t i = 0; i < chart.series.size(); ++i)
         graph.setLegend(i, std::move(chart.series[i].legend));
     if (chart.x)

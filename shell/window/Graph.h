@@ -9,8 +9,9 @@
 
 namespace caudalera {
 
-/// The chart of a window: a table of series over shared X positions. It is hidden until drawn and
-/// holds nothing that a calculation needs.
+/// The chart of a window: a table of series over shared X positions. It is declared for a number of
+/// points; those that a series gives no value are not set, and not drawn. It is hidden until drawn
+/// and holds nothing that a calculation needs.
 class Graph : public Control {
 public:
     enum class Kind { line, area };
@@ -26,6 +27,7 @@ public:
     int backgroundColor() const { return background_; }
     bool border() const { return border_; }
     bool autoAdvance() const { return autoAdvance_; }
+    /// Points declared for each series.
     long points() const { return points_; }
     const std::vector<Series>& series() const { return series_; }
     /// None: the points stand at 1, 2, 3 and so on.
@@ -33,9 +35,10 @@ public:
     /// Grows with each draw and clear.
     std::uint64_t revision() const { return revision_; }
 
-    /// Fixed captions of the axes, where the form gives them.
-    std::string xCaption;
-    std::string yCaption;
+    /// Captions of the axes: labels of the window, whose place is along the axis. The visible ones
+    /// of an axis are joined by a blank.
+    std::vector<Label*> xLabels;
+    std::vector<Label*> yLabels;
 
     void setKind(Kind kind, int style);
     void setBackgroundColor(int index) { background_ = index; }
@@ -44,7 +47,9 @@ public:
     /// Also discards the values and legends of an earlier drawing.
     void setSize(long points, long series);
     void setLegend(std::size_t series, std::string legend);
-    void setX(std::vector<double> positions) { x_ = std::move(positions); }
+    /// The positions of the first points; failure 9 past the declared ones.
+    void setX(std::vector<double> positions);
+    /// The values of the first points; failure 9 past the declared ones.
     void setY(std::size_t series, std::vector<double> values);
     void draw();
     /// Background index 7, no border, no series, not visible.
@@ -62,16 +67,21 @@ private:
     std::uint64_t revision_ = 0;
 };
 
-/// What a line chart shows; `dibujarLineas` takes a Graph through the fixed order of operations.
-struct LineChart {
+/// What a drawing shows.
+struct Chart {
+    Graph::Kind kind = Graph::Kind::line;
     int style = 0;
     bool autoAdvance = true;
+    /// As many as the longest series has values, if not given.
+    std::optional<long> points;
+    /// None: the points stand at 1, 2, 3 and so on.
     std::optional<std::vector<double>> x;
     std::vector<Graph::Series> series;
 };
 
-/// Draws a line chart: kind and style, background, border, visible, auto-advance, size, legends,
-/// X positions, Y values, draw.
-void dibujarLineas(Graph& graph, LineChart chart);
+/// Takes a chart through the operations of a drawing in their order: kind and style, background,
+/// border, visible, auto-advance, size, legends, X positions, Y values, draw. What an earlier
+/// drawing showed is gone. Failure 9 for more values than declared points.
+void dibujar(Graph& graph, Chart chart);
 
 } // namespace caudalera

@@ -19,12 +19,23 @@ using namespace caudalera;
 
 namespace {
 
-LineChart threeSeries() {
-    LineChart chart;
+Chart threeSeries() {
+    Chart chart;
     chart.x = std::vector<double>{100, 150, 200, 300};
     chart.series = {{"P(X)", {0.2, 0.4, 0.6, 0.8}},
                     {"F(Z) Ordinario", {0.1, 0.3, 0.55, 0.95}},
                     {"F(Z) Mom Lineal", {0.12, 0.33, 0.5, 0.9}}};
+    return chart;
+}
+
+/// A storm of two intervals as a staircase: two series and as many points again as an interval has
+/// are declared, the points of the first series alone are set.
+Chart storm() {
+    Chart chart;
+    chart.kind = Graph::Kind::area;
+    chart.points = 12;
+    chart.x = std::vector<double>{0, 0, 10, 10, 10, 10, 30, 30};
+    chart.series = {{"", {0, 12, 12, 0, 0, 48, 48, 0}}, {}};
     return chart;
 }
 
@@ -48,8 +59,8 @@ private:
     QCustomPlot* plot = nullptr;
     QTemporaryDir folder;
 
-    void show(const LineChart& chart) {
-        dibujarLineas(*graph, chart);
+    void show(const Chart& chart) {
+        dibujar(*graph, chart);
         view->sync();
     }
     QPoint at(double shareOfWidth, double shareOfHeight) const {
@@ -132,7 +143,7 @@ private slots:
     }
 
     void pointsKeepTheirOrder() {
-        LineChart chart;
+        Chart chart;
         chart.style = 1;
         chart.x = std::vector<double>{3, 1, 2};
         chart.series = {{"", {30, 10, 20}}};
@@ -147,7 +158,7 @@ private slots:
     }
 
     void withoutPositionsThePointsStandAtTheirRanks() {
-        LineChart chart;
+        Chart chart;
         chart.series = {{"", {5, 7, 9}}};
         show(chart);
         bool found = false;
@@ -164,7 +175,7 @@ private slots:
     }
 
     void equalValuesStillGetARange() {
-        LineChart chart;
+        Chart chart;
         chart.series = {{"", {4, 4, 4}}};
         show(chart);
         QVERIFY(plot->yAxis->range().lower < 4 && plot->yAxis->range().upper > 4);
@@ -196,17 +207,36 @@ private slots:
         QVERIFY(legend);
         QCOMPARE(legend->itemCount(), 3);
         QVERIFY(!legend->rect().intersects(plot->axisRect()->rect()));
-        LineChart unnamed = threeSeries();
+        Chart unnamed = threeSeries();
         for (auto& series : unnamed.series)
             series.legend.clear();
         show(unnamed);
         QCOMPARE(plot->plotLayout()->rowCount(), 1);
     }
 
-    void axesCarryTheirCaptions() {
-        graph->xCaption = "Eje de Meses: 0 = Ene, 1 = Feb, ... ,11= Dic";
+    void axesCarryTheVisibleOnesOfTheirLabels() {
+        Label months(*window, "lblMeses", "Eje de Meses: 0 = Ene, 1 = Feb, ... ,11= Dic");
+        Label function(*window, "lblFuncion", "Fx");
+        Label share(*window, "lblPorcentaje", "(%)");
+        graph->xLabels = {&months};
+        graph->yLabels = {&function, &share};
         show(threeSeries());
-        QCOMPARE(plot->xAxis->label(), QString::fromStdString(graph->xCaption));
+        QCOMPARE(plot->xAxis->label(), QString::fromStdString(months.caption));
+        QCOMPARE(plot->yAxis->label(), QStringLiteral("Fx (%)"));
+        // The longest one has its room at the smallest size, too.
+        const int length = view->fontMetrics().horizontalAdvance(plot->xAxis->label());
+        QVERIFY(view->minimumSizeHint().width() > length);
+        view->resize(view->minimumSizeHint());
+        QApplication::processEvents();
+        QVERIFY2(plot->axisRect()->width() >= length,
+                 qPrintable(QStringLiteral("%1 of %2").arg(plot->axisRect()->width()).arg(length)));
+        // Without a new drawing.
+        function.caption = "fx";
+        share.visible = false;
+        view->sync();
+        QCOMPARE(plot->yAxis->label(), QStringLiteral("fx"));
+        graph->xLabels.clear();
+        graph->yLabels.clear();
     }
 
     void labelsAreReadable_data() {
@@ -233,7 +263,7 @@ private slots:
         view = new ChartView(*graph, top.get());
         view->resize(680, 440);
         plot = view->findChild<QCustomPlot*>();
-        LineChart chart;
+        Chart chart;
         chart.series = {{"", {y[0], y[1]}}};
         show(chart);
         plot->replot();
@@ -243,7 +273,7 @@ private slots:
     }
 
     void monthsGetNoTicksBetweenThem() {
-        LineChart chart;
+        Chart chart;
         chart.x = std::vector<double>{0, 1, 2, 3};
         chart.series = {{"", {1, 2, 4, 8}}};
         show(chart);
@@ -252,13 +282,7 @@ private slots:
     }
 
     void theAreaReachesDownToTheAxis() {
-        graph->setKind(Graph::Kind::area, 0);
-        graph->visible = true;
-        graph->setSize(8, 2);
-        graph->setX({0, 0, 10, 10, 10, 10, 30, 30});
-        graph->setY(0, {0, 12, 12, 0, 0, 48, 48, 0});
-        graph->draw();
-        view->sync();
+        show(storm());
         QCOMPARE(plot->plottableCount(), 2);
         QCOMPARE(plot->yAxis->range().lower, 0.0);
         const QColor ground = plot->plottable(0)->brush().color();
@@ -271,6 +295,36 @@ private slots:
         };
         QVERIFY(pixel(21, 33) != pixel(5, 33));
         QCOMPARE(pixel(5, 33), QColor(Qt::white));
+    }
+
+    void pointsThatAreNotSetAreNotDrawn() {
+        show(storm());
+        for (int i = 0; i < plot->plottableCount(); ++i) {
+            const auto* curve = qobject_cast<QCPCurve*>(plot->plottable(i));
+            QVERIFY(curve);
+            for (const QCPCurveData& point : *curve->data())
+                QVERIFY2(point.t < 8 || point.value == 0, "only the ground is closed behind them");
+        }
+        QCOMPARE(qobject_cast<QCPCurve*>(plot->plottable(1))->dataCount(), 8);
+        Chart ranks;
+        ranks.points = 5;
+        ranks.series = {{"", {5, 7, 9}}};
+        show(ranks);
+        bool found = false;
+        QVERIFY(plot->plottable(0)->getKeyRange(found) == QCPRange(1, 3));
+        QVERIFY(found);
+    }
+
+    void aChartChangesItsKindFromDrawingToDrawing() {
+        show(storm());
+        Chart mass;
+        mass.x = std::vector<double>{0, 10, 30};
+        mass.series = {{"", {0, 2, 18}}};
+        show(mass);
+        QCOMPARE(plot->plottableCount(), 1);
+        QCOMPARE(plot->plottable(0)->brush().style(), Qt::NoBrush);
+        show(storm());
+        QCOMPARE(plot->plottableCount(), 2);
     }
 
     void theWheelZoomsAtThePointer() {

@@ -15,11 +15,13 @@ protected:
     Graph& graph() { return control<Graph>("Graph1"); }
     GraphTest() { sheet(); }
 
-    static LineChart chart() {
-        return {1,
-                false,
-                std::vector<double>{0.5, 1.5, 2.5},
-                {{"obs", {1, 2, 3}}, {"teo", {1.1, 2.2, 3.3}}}};
+    static Chart chart() {
+        Chart chart;
+        chart.style = 1;
+        chart.autoAdvance = false;
+        chart.x = std::vector<double>{0.5, 1.5, 2.5};
+        chart.series = {{"obs", {1, 2, 3}}, {"teo", {1.1, 2.2, 3.3}}};
+        return chart;
     }
 };
 
@@ -31,9 +33,9 @@ TEST_F(GraphTest, IsHiddenAndEmptyUntilDrawn) {
     EXPECT_EQ(graph().backgroundColor(), 7);
 }
 
-TEST_F(GraphTest, ALineChartGoesThroughAllItsOperations) {
+TEST_F(GraphTest, AChartGoesThroughAllItsOperations) {
     const auto before = graph().revision();
-    dibujarLineas(graph(), chart());
+    dibujar(graph(), chart());
     EXPECT_TRUE(graph().visible);
     EXPECT_EQ(graph().graphKind(), Graph::Kind::line);
     EXPECT_EQ(graph().style(), 1);
@@ -49,16 +51,18 @@ TEST_F(GraphTest, ALineChartGoesThroughAllItsOperations) {
 }
 
 TEST_F(GraphTest, TwoDrawsInARowShowTheSameCurveOnce) {
-    dibujarLineas(graph(), chart());
-    dibujarLineas(graph(), chart());
+    dibujar(graph(), chart());
+    dibujar(graph(), chart());
     EXPECT_EQ(graph().series().size(), 2U);
     EXPECT_EQ(graph().points(), 3);
     EXPECT_EQ(graph().x()->size(), 3U);
 }
 
 TEST_F(GraphTest, ADrawReplacesPositionsAndLegendsOfTheOneBefore) {
-    dibujarLineas(graph(), chart());
-    dibujarLineas(graph(), {0, true, std::nullopt, {{"", {9}}}});
+    dibujar(graph(), chart());
+    Chart next;
+    next.series = {{"", {9}}};
+    dibujar(graph(), next);
     EXPECT_FALSE(graph().x()) << "the points stand at 1, 2, 3 again";
     EXPECT_EQ(graph().points(), 1);
     ASSERT_EQ(graph().series().size(), 1U);
@@ -68,7 +72,7 @@ TEST_F(GraphTest, ADrawReplacesPositionsAndLegendsOfTheOneBefore) {
 }
 
 TEST_F(GraphTest, ClearingErasesAndHides) {
-    dibujarLineas(graph(), chart());
+    dibujar(graph(), chart());
     click("bLimpiar");
     EXPECT_FALSE(graph().visible);
     EXPECT_FALSE(graph().border());
@@ -76,19 +80,56 @@ TEST_F(GraphTest, ClearingErasesAndHides) {
     EXPECT_EQ(graph().points(), 0);
     EXPECT_TRUE(graph().series().empty());
     EXPECT_FALSE(graph().x());
-    dibujarLineas(graph(), chart());
+    dibujar(graph(), chart());
     EXPECT_TRUE(graph().visible);
 }
 
 TEST_F(GraphTest, AnAreaChartIsAKindOfItsOwn) {
-    graph().setKind(Graph::Kind::area, 2);
-    graph().setSize(2, 1);
-    graph().setY(0, {3, 4});
-    graph().draw();
+    Chart area = chart();
+    area.kind = Graph::Kind::area;
+    area.style = 2;
+    dibujar(graph(), area);
     EXPECT_EQ(graph().graphKind(), Graph::Kind::area);
     EXPECT_EQ(graph().style(), 2);
-    dibujarLineas(graph(), chart());
+    dibujar(graph(), chart());
     EXPECT_EQ(graph().graphKind(), Graph::Kind::line);
+    EXPECT_EQ(graph().style(), 1);
+}
+
+// Two intervals of a storm, four points each: declared are as many again as one interval has.
+TEST_F(GraphTest, MorePointsCanBeDeclaredThanAreSet) {
+    Chart storm;
+    storm.kind = Graph::Kind::area;
+    storm.points = 12;
+    storm.x = std::vector<double>{0, 0, 10, 10, 10, 10, 30, 30};
+    storm.series = {{"", {0, 12, 12, 0, 0, 48, 48, 0}}, {}};
+    dibujar(graph(), storm);
+    EXPECT_EQ(graph().points(), 12);
+    EXPECT_EQ(graph().x()->size(), 8U);
+    ASSERT_EQ(graph().series().size(), 2U);
+    EXPECT_EQ(graph().series()[0].y.size(), 8U);
+    EXPECT_TRUE(graph().series()[1].y.empty());
+}
+
+TEST_F(GraphTest, AsManyPointsAreDeclaredAsTheLongestSeriesHas) {
+    Chart uneven;
+    uneven.series = {{"", {1}}, {"", {1, 2, 3}}, {"", {1, 2}}};
+    dibujar(graph(), uneven);
+    EXPECT_EQ(graph().points(), 3);
+    dibujar(graph(), Chart());
+    EXPECT_EQ(graph().points(), 0);
+    EXPECT_TRUE(graph().series().empty());
+}
+
+TEST_F(GraphTest, AValuePastTheDeclaredPointsIsFailure9) {
+    Chart over = chart();
+    over.points = 2;
+    EXPECT_EQ(failureNumber([&] { dibujar(graph(), over); }), 9);
+    over.x.reset();
+    EXPECT_EQ(failureNumber([&] { dibujar(graph(), over); }), 9);
+    over.points = 3;
+    dibujar(graph(), over);
+    EXPECT_EQ(graph().points(), 3);
 }
 
 TEST_F(GraphTest, ASeriesThatIsNotThereIsFailure9) {
