@@ -66,7 +66,6 @@ QLayout* LayoutBuilder::content(const Layout& layout, FieldBlocks& blocks) {
     case Layout::Kind::buttons:
         return box(layout, false, blocks);
     case Layout::Kind::column:
-    case Layout::Kind::stack:
         return box(layout, true, blocks);
     case Layout::Kind::fields:
         return fields(layout, blocks);
@@ -125,10 +124,7 @@ QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& 
             lineUp(own);
         }
     }
-    if (layout.kind == Layout::Kind::stack) {
-        for (int i = 0; i < box->count(); ++i)
-            box->setStretch(i, 1);
-    } else if (!hasStretch(layout)) {
+    if (!hasStretch(layout)) {
         box->addStretch(1);
     } else if (upright) {
         // Takes what is left when the stretched ones are as high as their content asks for.

@@ -37,10 +37,6 @@ Layout column(std::vector<Layout> children) {
     return container(Layout::Kind::column, std::move(children));
 }
 
-Layout stack(std::vector<Layout> children) {
-    return container(Layout::Kind::stack, std::move(children));
-}
-
 Layout control(Control& control) {
     Layout node;
     node.kind = Layout::Kind::control;

@@ -24,7 +24,6 @@ struct Layout {
         tabs,    ///< one child a tab
         fields,  ///< lines of label, fields and unit, in columns that line up
         buttons, ///< commands side by side
-        stack,   ///< children that take turns in one room (those not visible give it up)
     };
     struct FieldLine {
         Control* label = nullptr;
@@ -55,7 +54,6 @@ namespace layout {
 
 Layout row(std::vector<Layout> children);
 Layout column(std::vector<Layout> children);
-Layout stack(std::vector<Layout> children);
 Layout control(Control& control);
 Layout frame(Frame& frame, Layout content);
 Layout tabs(Tabs& tabs, std::vector<Layout> pages);
