@@ -85,8 +85,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || fixedRows_ == 0)
         return {};
-    if (role == Qt::DisplayRole)
-        return text(0, section);
+    if (role == Qt::DisplayRole) {
+        QString lines = text(0, section);
+        for (long row = 1; row < fixedRows_; ++row)
+            lines += u'\n' + text(row, section);
+        return lines;
+    }
     if (role == Qt::TextAlignmentRole)
         return alignment(section).toInt();
     return {};

@@ -6,8 +6,8 @@
 
 namespace caudalera {
 
-/// The cells of a grid below its fixed row, read straight from the model's own table. The fixed
-/// row is the horizontal header.
+/// The cells of a grid below its fixed rows, read straight from the model's own table. The fixed
+/// rows are the lines of the horizontal header.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 

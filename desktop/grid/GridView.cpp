@@ -52,7 +52,6 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
     header->setMinimumSectionSize(1);
     header->setHighlightSections(false);
     header->setSectionsClickable(false);
-    header->setFixedHeight(fontMetrics().height() + style::unit() + style::halfUnit());
     header->setStyleSheet(
         QStringLiteral("QHeaderView::section { background: %1; color: %2; border: none;"
                        " border-right: 1px solid %3; padding: 0 %4px; }")
@@ -81,6 +80,7 @@ void GridView::sync() {
         const int columns = model_.columnCount();
         model_.sync();
         revision_ = grid_.revision();
+        fitHeader();
         if (columns != model_.columnCount() || columns == 0 || horizontalHeader()->length() == 0)
             fitColumns();
         executeDelayedItemsLayout();
@@ -97,6 +97,17 @@ void GridView::sync() {
         viewport()->update();
     }
     syncEditor();
+}
+
+void GridView::fitHeader() {
+    const int lines = static_cast<int>(std::max(grid_.FixedRows(), 1L));
+    const int height = fontMetrics().height() + (lines - 1) * fontMetrics().lineSpacing() +
+                       style::unit() + style::halfUnit();
+    if (horizontalHeader()->height() == height)
+        return;
+    horizontalHeader()->setFixedHeight(height);
+    updateGeometries();
+    updateGeometry();
 }
 
 void GridView::syncScroll(bool moved) {
@@ -138,7 +149,10 @@ void GridView::userScrolled(int value) {
 
 int GridView::columnMinimum(int col) const {
     const QString title = model_.headerData(col, Qt::Horizontal).toString();
-    return fontMetrics().horizontalAdvance(title) + 2 * style::unit();
+    int width = 0;
+    for (const QString& line : title.split(u'\n'))
+        width = std::max(width, fontMetrics().horizontalAdvance(line));
+    return width + 2 * style::unit();
 }
 
 int GridView::preferredWidth(int col) const {

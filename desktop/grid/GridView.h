@@ -61,6 +61,8 @@ private:
     /// The cell at a point, or the nearest one.
     Cell nearestCell(const QPoint& point) const;
     void userScrolled(int value);
+    /// As high as its lines of titles.
+    void fitHeader();
     void fitColumns();
     int columnMinimum(int col) const;
     int preferredWidth(int col) const;

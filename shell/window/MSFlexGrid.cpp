@@ -36,9 +36,9 @@ void MSFlexGrid::reset(long rows, long cols, long fixedRows, long fixedCols) {
     ++revision_;
 }
 
-void MSFlexGrid::setHeaders(const std::vector<std::string>& headers) {
+void MSFlexGrid::setHeaders(const std::vector<std::string>& headers, long row) {
     for (std::size_t i = 0; i < headers.size(); ++i)
-        setTextMatrix(0, static_cast<long>(i), headers[i]);
+        setTextMatrix(row, static_cast<long>(i), headers[i]);
 }
 
 void MSFlexGrid::setRows(long rows) {

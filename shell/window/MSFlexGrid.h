@@ -19,8 +19,8 @@ public:
 
     /// Builds it anew and empty, the current cell in the first one that is not fixed.
     void reset(long rows, long cols, long fixedRows, long fixedCols);
-    /// Row 0 takes these texts from column 0 on.
-    void setHeaders(const std::vector<std::string>& headers);
+    /// A row, the first one if not given, takes these texts from column 0 on.
+    void setHeaders(const std::vector<std::string>& headers, long row = 0);
 
     long Rows() const { return rows_; }
     long Cols() const { return cols_; }
@@ -58,7 +58,7 @@ public:
     /// Column widths in twips, as the form gives them; a guide for the view's proportions.
     std::vector<int> columnWidths;
     std::vector<ColumnAlignment> columnAlignments;
-    /// Rows that the grid shows at a time, the header not counted.
+    /// Rows that the grid shows at a time, the fixed ones not counted.
     int visibleRows = 14;
 
     std::function<void()> onLeaveCell;

@@ -19,7 +19,8 @@ QString described(const DesktopFixture::Box& box) {
 
 } // namespace
 
-DesktopFixture::DesktopFixture() {
+DesktopFixture::DesktopFixture(const std::vector<WindowEntry>& windows)
+    : session(windows, makeView) {
     style::apply(*qApp);
     QApplication::setQuitOnLastWindowClosed(false);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());

@@ -33,12 +33,13 @@ public:
         bool operator==(const Box&) const = default;
     };
 
-    DesktopFixture();
+    /// `windows`: those that the program can open; all that there are, if not given.
+    explicit DesktopFixture(const std::vector<WindowEntry>& windows = ventanas());
     ~DesktopFixture();
     DesktopFixture(const DesktopFixture&) = delete;
     DesktopFixture& operator=(const DesktopFixture&) = delete;
 
-    Session session{ventanas(), makeView};
+    Session session;
     Program& program() { return session.program(); }
 
     /// Opens a window as its menu entry does and waits until it has the keyboard.

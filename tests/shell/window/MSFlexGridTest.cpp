@@ -67,6 +67,17 @@ TEST_F(GridTest, HeadersFillRowZero) {
     EXPECT_EQ(failureNumber([&] { grid.setHeaders({"a", "b", "c", "d"}); }), 9);
 }
 
+TEST_F(GridTest, ASecondFixedRowTakesHeadersOfItsOwn) {
+    grid.reset(4, 2, 2, 1);
+    grid.setHeaders({"N°", "T"});
+    grid.setHeaders({"", "(min)"}, 1);
+    EXPECT_EQ(grid.TextMatrix(0, 1), "T");
+    EXPECT_EQ(grid.TextMatrix(1, 1), "(min)");
+    EXPECT_EQ(grid.Row(), 2);
+    EXPECT_FALSE(grid.canSelect(1, 1));
+    EXPECT_EQ(failureNumber([&] { grid.setHeaders({"a"}, 4); }), 9);
+}
+
 TEST_F(GridTest, ACellOutsideIsFailure9) {
     using Cell = std::pair<long, long>;
     for (const Cell& cell : {Cell{-1, 0}, Cell{0, -1}, Cell{3, 0}, Cell{0, 3}}) {
