@@ -1,6 +1,9 @@
+#include "app/registry.h"
 #include "desktop/style/Style.h"
+#include "recording/RecordingPlatform.h"
 
 #include <QDirIterator>
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QSet>
@@ -70,6 +73,35 @@ private slots:
         QVERIFY(normal != hover);
     }
 
+    void everyPictureHasItsDrawing() {
+        int pictures = 0;
+        forEveryControl([&](const Control& control) {
+            const auto* picture = dynamic_cast<const Picture*>(&control);
+            if (!picture)
+                return;
+            ++pictures;
+            const QString path = style::drawingPath(QString::fromStdString(picture->image()));
+            QVERIFY2(QFile::exists(path), qPrintable(told(control) + " has no " + path));
+        });
+        QVERIFY(pictures > 0);
+    }
+
+    /// The calculator's keys, whose names do not begin as those of commands do, have none.
+    void everyCommandHasItsIcon() {
+        int commands = 0;
+        forEveryControl([&](const Control& control) {
+            if (control.kind() != ControlKind::button || !control.name().starts_with('b'))
+                return;
+            ++commands;
+            const QString name = QString::fromStdString(control.name()).mid(1);
+            for (const char* suffix : {"", "-hover"}) {
+                const QString path = QStringLiteral(":/icons/%1%2.svg").arg(name, suffix);
+                QVERIFY2(QFile::exists(path), qPrintable(told(control) + " has no " + path));
+            }
+        });
+        QVERIFY(commands > 0);
+    }
+
     void theIconsAreSquareAndTheCoverIsWide() {
         QCOMPARE(QSvgRenderer(QStringLiteral(":/icons/Calcular.svg")).defaultSize(), QSize(24, 24));
         const QSize cover =
@@ -79,6 +111,22 @@ private slots:
 
     void aButtonWithoutDrawingHasNoIcon() {
         QVERIFY(style::icon(QStringLiteral("NoExiste")).isNull());
+    }
+
+private:
+    /// Of all windows that there are.
+    template <typename Check>
+    static void forEveryControl(const Check& check) {
+        RecordingPlatform platform;
+        Program program(platform, ventanas());
+        for (const WindowEntry& entry : ventanas()) {
+            const auto window = entry.create(program);
+            for (const Control* control : window->controls())
+                check(*control);
+        }
+    }
+    static QString told(const Control& control) {
+        return QString::fromStdString(control.window().name() + "." + control.name());
     }
 };
 
