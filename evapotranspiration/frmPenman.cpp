@@ -15,14 +15,7 @@ constexpr std::string_view mascaraResultado = "0.0#";
 constexpr const char* latitudInicial = "10";
 constexpr const char* hemisferioInicial = "N";
 constexpr const char* mesInicial = "Enero";
-
-/// A heading of the report between its two rules.
-void escribirEncabezado(ReportWriter& reporte, std::string_view texto) {
-    constexpr long guiones = 35;
-    reporte.regla(guiones);
-    reporte << texto << ReportWriter::LF;
-    reporte.regla(guiones);
-}
+constexpr long guionesDelReporte = 35;
 
 } // namespace
 
@@ -144,7 +137,7 @@ void frmPenman::escribirReporte(ReportWriter& reporte) {
 
 void frmPenman::escribirDatos(ReportWriter& reporte) const {
     constexpr auto LF = ReportWriter::LF;
-    escribirEncabezado(reporte, "Datos: ");
+    reporte.encabezado({"Datos: "}, guionesDelReporte);
     reporte << " Latitud: Lat = " << txtLatitud.text() << " " << cobNS.text() << LF;
     reporte << " Altitud: h = " << txth.text() << " m.s.n.m." << LF;
     reporte << " Mes de cálculo: Mes = " << cobMes.text() << LF;
@@ -160,7 +153,7 @@ void frmPenman::escribirDatos(ReportWriter& reporte) const {
 
 void frmPenman::escribirParciales(ReportWriter& reporte) const {
     constexpr auto LF = ReportWriter::LF;
-    escribirEncabezado(reporte, " Resultados parciales:");
+    reporte.encabezado({" Resultados parciales:"}, guionesDelReporte);
     reporte << " Radiación extraterrestre: Ra = " << txtRa.text() << " mm/día" << LF;
     reporte << " Duración máxima posible de horas de insolación : N = " << txtN.text() << " hr/día"
             << LF;
@@ -186,7 +179,7 @@ void frmPenman::escribirParciales(ReportWriter& reporte) const {
 
 void frmPenman::escribirFinales(ReportWriter& reporte) const {
     constexpr auto LF = ReportWriter::LF;
-    escribirEncabezado(reporte, " Resultados finales:");
+    reporte.encabezado({" Resultados finales:"}, guionesDelReporte);
     reporte << " Factor de ajuste para Penman: c = " << txtC.text() << LF;
     reporte << " Témino de radiación: TerRadiación = " << txtRadiacion.text() << " mm/día" << LF;
     reporte << " Témino de advección: TerAdvección = " << txtAdveccion.text() << " mm/día" << LF;

@@ -7,7 +7,6 @@ namespace caudalera {
 namespace {
 
 constexpr auto LF = ReportWriter::LF;
-constexpr auto TAB = ReportWriter::TAB;
 
 } // namespace
 
@@ -17,9 +16,7 @@ void FitWorksheet::escribirReporte(ReportWriter& reporte) {
     reporteDeParametros(reporte);
 
     reporte << LF << LF << LF;
-    reporte.regla(30);
-    reporte << "Caudal de diseño:" << LF;
-    reporte.regla(30);
+    reporte.encabezado({"Caudal de diseño:"}, 30);
     reporte << "El caudal de diseño para un periodo de retorno de " << txtxt.text() << " años, es "
             << txtxq.text() << LF;
 }
@@ -32,27 +29,21 @@ void FitWorksheet::reporteDeSerie(ReportWriter& reporte) const {
 
 void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {
     constexpr long anchoCelda = 18;
-    reporte << "Cálculos del ajuste Smirnov Kolmogorov:" << LF << LF;
-    reporte.regla(130);
-    reporte << "        m  " << TAB << "        X  " << TAB << "           P(X)  "
-            << "      ";
+    constexpr long guionesAjuste = 130;
+    constexpr long guionesMensaje = 55;
+    std::string encabezado = "        m  \t        X  \t           P(X)        ";
     for (const auto titulo : texts_.titulosReporte)
-        reporte << titulo << "   ";
-    reporte << LF;
-    reporte.regla(130);
+        encabezado.append(titulo).append("   ");
+    reporte.abrirTabla("Cálculos del ajuste Smirnov Kolmogorov:", {encabezado}, guionesAjuste);
     for (long fila = 1; fila <= program().variables.contadorLineas; ++fila) {
         for (long col = 0; col < grddis.Cols(); ++col)
             reporte << (fila == 1 ? " " : "") << centrado(grddis.TextMatrix(fila, col), anchoCelda);
         reporte << LF;
     }
-    reporte.regla(130);
-    reporte << LF;
-    reporte.regla(55);
-    reporte << lblAjuste.caption << LF;
-    reporte.regla(55);
+    reporte.cerrarTabla(guionesAjuste);
+    reporte.encabezado({lblAjuste.caption}, guionesMensaje);
     reporte << lblmensaje.caption << LF << LF;
-    reporte.regla(55);
-    reporte << LF;
+    reporte.cerrarTabla(guionesMensaje);
 }
 
 void FitWorksheet::reporteDeParametros(ReportWriter& reporte) const {

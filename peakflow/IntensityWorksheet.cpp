@@ -261,10 +261,7 @@ void IntensityWorksheet::escribirReporteI(ReportWriter& reporte) const {
     constexpr std::string_view TAB = ReportWriter::TAB;
     if (optRegistros.checked()) {
         reporte << "Valores de T, D y Imáx:" << LF;
-        reporte.regla(guiones);
-        reporte << " Trío" << TAB << TAB << " T (años)" << TAB << " Duración (min)" << TAB
-                << " I máx (mm/hr)" << LF;
-        reporte.regla(guiones);
+        reporte.encabezado({" Trío\t\t T (años)\t Duración (min)\t I máx (mm/hr)"}, guiones);
         for (long fila = 1; fila <= filasDelReporte(); ++fila) {
             reporte << grdt.TextMatrix(fila, 0);
             for (long col = 1; col < grdt.Cols(); ++col)

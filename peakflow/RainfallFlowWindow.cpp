@@ -152,9 +152,7 @@ void RainfallFlowWindow::ponderar() {
 void RainfallFlowWindow::escribirGrupos(ReportWriter& reporte) const {
     constexpr std::string_view LF = ReportWriter::LF;
     reporte << texts_.reportTitle << LF;
-    reporte.regla(texts_.reportRule);
-    reporte << texts_.reportHeading << LF;
-    reporte.regla(texts_.reportRule);
+    reporte.encabezado({texts_.reportHeading}, texts_.reportRule);
     for (long i = 1; i <= grupos_; ++i) {
         reporte << grdC.TextMatrix(i, 0) << blancos(5);
         for (long col = 1; col < grdC.Cols(); ++col) {
@@ -164,8 +162,7 @@ void RainfallFlowWindow::escribirGrupos(ReportWriter& reporte) const {
         }
         reporte << LF;
     }
-    reporte.regla(texts_.reportRule);
-    reporte << LF;
+    reporte.cerrarTabla(texts_.reportRule);
 }
 
 void RainfallFlowWindow::escribirReporte(ReportWriter& reporte) {

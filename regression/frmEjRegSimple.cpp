@@ -190,11 +190,8 @@ void frmEjRegSimple::escribirReporte(ReportWriter& reporte) {
     reporte.tablaDeDatos("Pares de datos X,Y:", " Par\t\t X\t\t Y\t\t", grdt, filasDelReporte(),
                          guionesPares);
 
-    reporte << "Ecuaciones de ajuste de pares de datos:" << LF << LF;
-    reporte.regla(guionesEcuaciones);
-    reporte << " Tipo    " << TAB << TAB << " Ecuación" << TAB << TAB << " R       " << TAB << TAB
-            << " R^2     " << TAB << TAB << LF;
-    reporte.regla(guionesEcuaciones);
+    reporte.abrirTabla("Ecuaciones de ajuste de pares de datos:",
+                       {" Tipo    \t\t Ecuación\t\t R       \t\t R^2     \t\t"}, guionesEcuaciones);
     // The filling differs between the rows so that the columns stand under one another.
     reporte.filas(grdecua, 1, 1, "  \t");
     for (long fila = 2; fila <= numEcuaciones; ++fila) {
@@ -202,8 +199,7 @@ void frmEjRegSimple::escribirReporte(ReportWriter& reporte) {
             reporte << grdecua.TextMatrix(fila, col) << blancos(col == columnaR ? 5 : 0) << TAB;
         reporte << LF;
     }
-    reporte.regla(guionesEcuaciones);
-    reporte << LF;
+    reporte.cerrarTabla(guionesEcuaciones);
 
     reporte << "Cálculo de Y para un valor de X:" << LF << LF;
     reporte << lblCalculoY.caption << ":" << LF;

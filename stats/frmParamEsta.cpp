@@ -149,19 +149,17 @@ void frmParamEsta::escribirReporte(ReportWriter& reporte) {
 
     reporte.tablaDeDatos("Serie de datos X:", columnasSerie, grdt, filasDelReporte(), guionesSerie);
 
-    reporte << "Parámetros Estadísticos:" << LF << LF;
-    reporte.regla(guionesParametros);
-    reporte << "     Parámetros       " << TAB << "                   Muestrales " << TAB
-            << " Poblacionales  " << TAB << "    Momentos Lineales  " << LF;
-    reporte.regla(guionesParametros);
+    reporte.abrirTabla("Parámetros Estadísticos:",
+                       {"     Parámetros       \t                   Muestrales \t"
+                        " Poblacionales  \t    Momentos Lineales  "},
+                       guionesParametros);
     for (long fila = 1; fila <= numParametros; ++fila) {
         reporte << TAB << grdParam.TextMatrix(fila, 0);
         for (long col = 1; col < grdParam.Cols(); ++col)
             reporte << blancos(fila == 1 ? 5 : 0) << centrado(grdParam.TextMatrix(fila, col), 25);
         reporte << LF;
     }
-    reporte.regla(guionesParametros);
-    reporte << LF;
+    reporte.cerrarTabla(guionesParametros);
 
     reporte << "Coeficientes Lineales:" << LF << LF;
     reporte << "L1 = " << txtL1.text() << LF << "L2 = " << txtL2.text() << LF;

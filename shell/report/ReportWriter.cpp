@@ -3,21 +3,30 @@
 namespace caudalera {
 
 void ReportWriter::titulo(std::string_view rotulo) {
-    text_.setSelIndent(200);
-    text_.setSelRightIndent(200);
-    alinear(Alignment::center);
+    constexpr int sangria = 200;
+    text_.setSelIndent(sangria);
+    text_.setSelRightIndent(sangria);
+    text_.setSelAlignment(Alignment::center);
     *this << "Resultados" << LF << LF << rotulo << LF << LF;
-    alinear(Alignment::left);
+    text_.setSelAlignment(Alignment::left);
     *this << LF;
-}
-
-void ReportWriter::sangrar(int twips) {
-    text_.setSelIndent(twips);
-    text_.setSelRightIndent(twips);
 }
 
 void ReportWriter::regla(long guiones) {
     *this << std::string(static_cast<std::size_t>(guiones), '-') << LF;
+}
+
+void ReportWriter::encabezado(std::initializer_list<std::string_view> lineas, long guiones) {
+    regla(guiones);
+    for (const std::string_view linea : lineas)
+        *this << linea << LF;
+    regla(guiones);
+}
+
+void ReportWriter::abrirTabla(std::string_view titulo,
+                              std::initializer_list<std::string_view> encabezados, long guiones) {
+    *this << titulo << LF << LF;
+    encabezado(encabezados, guiones);
 }
 
 void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima, std::string_view tras) {
@@ -28,15 +37,16 @@ void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima, std:
     }
 }
 
-void ReportWriter::tablaDeDatos(std::string_view titulo, std::string_view columnas,
-                                const MSFlexGrid& grid, long cuantas, long guiones) {
-    *this << titulo << LF << LF;
-    regla(guiones);
-    *this << columnas << LF;
-    regla(guiones);
-    filas(grid, 1, cuantas, "\t\t");
+void ReportWriter::cerrarTabla(long guiones) {
     regla(guiones);
     *this << LF;
+}
+
+void ReportWriter::tablaDeDatos(std::string_view titulo, std::string_view columnas,
+                                const MSFlexGrid& grid, long cuantas, long guiones) {
+    abrirTabla(titulo, {columnas}, guiones);
+    filas(grid, 1, cuantas, "\t\t");
+    cerrarTabla(guiones);
 }
 
 } // namespace caudalera

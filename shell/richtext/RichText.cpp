@@ -88,6 +88,21 @@ void appendLines(std::vector<Paragraph>& paragraphs, std::string_view text,
     }
 }
 
+/// Puts `pieces` in the place of `count` elements from number `first` on.
+template <class Element>
+void replace(std::vector<Element>& elements, std::size_t first, std::size_t count,
+             std::vector<Element> pieces) {
+    const auto from = elements.begin() + static_cast<std::ptrdiff_t>(first);
+    const auto common = static_cast<std::ptrdiff_t>(std::min(count, pieces.size()));
+    const auto rest = std::move(pieces.begin(), pieces.begin() + common, from);
+    if (pieces.size() <= count) {
+        elements.erase(rest, from + static_cast<std::ptrdiff_t>(count));
+    } else {
+        elements.insert(rest, std::make_move_iterator(pieces.begin() + common),
+                        std::make_move_iterator(pieces.end()));
+    }
+}
+
 } // namespace
 
 std::string Paragraph::text() const {
@@ -298,6 +313,28 @@ void RichText::setSelRich(const RichText& inserted) {
     std::vector<Paragraph> pieces = inserted.paragraphs_;
     eraseSelection();
     insertAtCaret(std::move(pieces));
+    ++revision_;
+}
+
+RichText RichText::selParagraphs() const {
+    const Place end = placeOf(selStart_ + selLength_);
+    const auto first = paragraphs_.begin() + static_cast<std::ptrdiff_t>(caret_.paragraph);
+    const auto last = paragraphs_.begin() + static_cast<std::ptrdiff_t>(end.paragraph);
+    RichText touched(std::vector<Paragraph>(first, std::next(last)));
+    touched.select(caretOffset(), selLength_);
+    return touched;
+}
+
+void RichText::setSelParagraphs(RichText edited) {
+    const Place end = placeOf(selStart_ + selLength_);
+    const std::size_t count = end.paragraph + 1 - caret_.paragraph;
+    length_ -= end.start + lengths_[end.paragraph] - caret_.start;
+    length_ += edited.length_;
+    replace(paragraphs_, caret_.paragraph, count, std::move(edited.paragraphs_));
+    replace(lengths_, caret_.paragraph, count, std::move(edited.lengths_));
+    selStart_ = caret_.start + edited.selStart_;
+    selLength_ = edited.selLength_;
+    caret_ = {caret_.paragraph + edited.caret_.paragraph, caret_.start + edited.caret_.start};
     ++revision_;
 }
 

@@ -89,6 +89,13 @@ public:
     /// but for an empty first or last one, which leaves the text it joins as it is.
     void setSelRich(const RichText& inserted);
 
+    /// The paragraphs that the selection touches, as a text of their own in which the same
+    /// characters are selected.
+    RichText selParagraphs() const;
+    /// Puts such a text in their place and takes its selection. What was done to it at its
+    /// selection stands then as if it had been done here, but what lies behind has moved only once.
+    void setSelParagraphs(RichText edited);
+
     /// Formats of the paragraphs that the selection touches (the caret's, if it is empty). One of
     /// which it holds nothing but the start is not touched.
     void setSelIndent(int twips);

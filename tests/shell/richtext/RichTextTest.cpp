@@ -237,6 +237,8 @@ TEST(RichTextTest, EveryChangeRaisesTheRevision) {
     EXPECT_TRUE(grew());
     text.setSelRich(RichText());
     EXPECT_TRUE(grew());
+    text.setSelParagraphs(text.selParagraphs());
+    EXPECT_TRUE(grew());
     text.assign({});
     EXPECT_TRUE(grew());
     EXPECT_EQ(text.text(), "");
@@ -303,6 +305,49 @@ TEST(RichTextTest, AgreesWithAPlainListOfCharacters) {
         ASSERT_EQ(text.selLength(), 0U) << step;
     }
     EXPECT_GT(text.paragraphs().size(), 100U);
+}
+
+TEST(RichTextTest, SelectedParagraphsAreATextOfTheirOwn) {
+    RichText text = textOf({line({{"ab", {}}}), line({{"cd", bold()}}, centered()),
+                            line({{"ef", {}}}), line({{"gh", {}}})});
+    // "d", the line feed and "e".
+    text.select(4, 3);
+    const RichText touched = text.selParagraphs();
+    EXPECT_EQ(show(touched), "c200/300 [cd|b]\nl0/0 [ef]\n");
+    EXPECT_EQ(touched.selStart(), 1U);
+    EXPECT_EQ(touched.selLength(), 3U);
+}
+
+TEST(RichTextTest, WorkOnTheSelectedParagraphsAloneGivesTheSameText) {
+    std::mt19937 random(11);
+    const auto below = [&random](std::size_t n) { return random() % n; };
+    const std::vector<std::string> pieces = {"", "a", "ñ\n", "\n", "😀b\n\nc", "\n1\n2\n3\n4\n"};
+    RichText direct;
+    RichText apart;
+    for (int step = 0; step < 2000; ++step) {
+        const std::size_t from = below(direct.length() + 1);
+        const std::size_t count = below(3) == 0 ? below(25) : 0;
+        direct.select(from, count);
+        apart.select(from, count);
+        RichText touched = apart.selParagraphs();
+        const auto both = [&](auto change) {
+            change(direct);
+            change(touched);
+        };
+        for (std::size_t i = below(4); i > 0; --i) {
+            const auto number = static_cast<int>(below(3));
+            both([&](RichText& text) { text.setSelIndent(100 * number); });
+            const std::string& piece = pieces[below(pieces.size())];
+            both([&](RichText& text) { text.setSelText(piece); });
+            both([&](RichText& text) { text.setSelAlignment(static_cast<Alignment>(number)); });
+        }
+        apart.setSelParagraphs(std::move(touched));
+        ASSERT_EQ(show(apart), show(direct)) << step;
+        ASSERT_EQ(apart.length(), direct.length()) << step;
+        ASSERT_EQ(apart.selStart(), direct.selStart()) << step;
+        ASSERT_EQ(apart.selLength(), direct.selLength()) << step;
+    }
+    EXPECT_GT(direct.paragraphs().size(), 100U);
 }
 
 TEST(RichTextTest, InsertionAtTheEndDoesNotSlowDownWithTheText) {
