@@ -2,6 +2,7 @@
 
 #include "desktop/chart/ChartImage.h"
 #include "desktop/chart/ChartTicker.h"
+#include "desktop/richtext/QtText.h"
 #include "desktop/style/Style.h"
 #include "shell/window/Program.h"
 
@@ -21,7 +22,7 @@ namespace caudalera {
 namespace {
 
 QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
+    return toQString(utf8);
 }
 
 QString decimalSeparator(const Graph& graph) {

@@ -1,18 +1,13 @@
 #pragma once
 
+#include "desktop/richtext/QtText.h"
 #include "shell/window/Control.h"
-
-#include <QString>
 
 class QWidget;
 
 namespace caudalera {
 
 class Session;
-
-inline QString toQString(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
 
 /// A control of the model and the widget that shows it. The widget belongs to its parent widget,
 /// as all widgets do.

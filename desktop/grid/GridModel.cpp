@@ -1,5 +1,7 @@
 #include "desktop/grid/GridModel.h"
 
+#include "desktop/richtext/QtText.h"
+
 #include <algorithm>
 
 namespace caudalera {
@@ -53,7 +55,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QString GridModel::text(long row, long col) const {
     if (!grid_ || row < 0 || row >= grid_->Rows() || col < 0 || col >= grid_->Cols())
         return {};
-    return QString::fromStdString(grid_->TextMatrix(row, col));
+    return toQString(grid_->TextMatrix(row, col));
 }
 
 Qt::Alignment GridModel::alignment(int col) const {

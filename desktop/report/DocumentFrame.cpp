@@ -1,6 +1,7 @@
 #include "desktop/report/DocumentFrame.h"
 
 #include "desktop/report/DocumentView.h"
+#include "desktop/richtext/QtText.h"
 #include "desktop/style/Style.h"
 #include "shell/report/frmDocumento.h"
 
@@ -39,7 +40,7 @@ DocumentFrame::DocumentFrame(frmDocumento& document, DocumentView* view,
 }
 
 void DocumentFrame::sync() {
-    const QString caption = QString::fromStdString(document_.caption);
+    const QString caption = toQString(document_.caption);
     if (windowTitle() != caption)
         setWindowTitle(caption);
     view_->sync();

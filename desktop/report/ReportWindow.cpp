@@ -2,6 +2,7 @@
 
 #include "desktop/report/DocumentFrame.h"
 #include "desktop/report/DocumentView.h"
+#include "desktop/richtext/QtText.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
 #include "shell/report/frmPadre.h"
@@ -20,10 +21,6 @@ namespace caudalera {
 namespace {
 
 constexpr double twipsPerInch = 1440;
-
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
 
 /// The keys that such commands have everywhere; empty for the others.
 QList<QKeySequence> shortcutsOf(const frmPadre& padre, const MenuEntry& entry) {
@@ -57,8 +54,8 @@ QRect onScreen(QRect rect) {
 
 ReportWindow::ReportWindow(Session& session, frmPadre& padre)
     : session_(session), padre_(padre), area_(new QMdiArea(this)) {
-    setObjectName(text(padre.name()));
-    setWindowTitle(text(padre.caption));
+    setObjectName(toQString(padre.name()));
+    setWindowTitle(toQString(padre.caption));
     setWindowIcon(style::icon(QStringLiteral("app")));
     setCentralWidget(area_);
     area_->setBackground(palette().mid());
@@ -96,14 +93,14 @@ void ReportWindow::buildMenu() {
 }
 
 QMenu* ReportWindow::menuOf(const MenuEntry& title) {
-    auto* menu = new QMenu(text(title.caption), this);
+    auto* menu = new QMenu(toQString(title.caption), this);
     for (MenuEntry* entry : title.entries) {
         if (!entry) {
             menu->addSeparator();
             continue;
         }
-        QAction* action = menu->addAction(text(entry->caption));
-        action->setObjectName(text(entry->name()));
+        QAction* action = menu->addAction(toQString(entry->caption));
+        action->setObjectName(toQString(entry->name()));
         action->setShortcuts(shortcutsOf(padre_, *entry));
         connect(action, &QAction::triggered, this, [this, entry] { click(*entry); });
         actions_.emplace_back(entry, action);
@@ -156,13 +153,14 @@ void ReportWindow::recordPlace() {
 
 void ReportWindow::sync() {
     for (const auto& [entry, action] : actions_) {
-        if (action->text() != text(entry->caption))
-            action->setText(text(entry->caption));
+        if (action->text() != toQString(entry->caption))
+            action->setText(toQString(entry->caption));
         if (action->isEnabled() != entry->enabled)
             action->setEnabled(entry->enabled);
     }
     for (std::size_t i = 0; i < panels_.size(); ++i)
-        if (const QString panel = text(padre_.sbStatusBar.panels[i]); panels_[i]->text() != panel)
+        if (const QString panel = toQString(padre_.sbStatusBar.panels[i]);
+            panels_[i]->text() != panel)
             panels_[i]->setText(panel);
     syncDocuments();
 }

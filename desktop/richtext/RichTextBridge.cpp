@@ -1,5 +1,7 @@
 #include "desktop/richtext/RichTextBridge.h"
 
+#include "desktop/richtext/QtText.h"
+
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -27,7 +29,7 @@ double pixels(int twips) {
 
 /// Characters that would end a block or stand for an object inside Qt's documents.
 QString shown(const std::string& utf8) {
-    QString text = QString::fromStdString(utf8);
+    QString text = toQString(utf8);
     for (QChar& character : text)
         if (character == QChar::ParagraphSeparator || character == QChar(0xFDD0) ||
             character == QChar(0xFDD1))
@@ -70,7 +72,7 @@ QTextBlockFormat blockFormat(const Paragraph& paragraph) {
     format.setRightMargin(pixels(paragraph.format.rightIndent));
     format.setProperty(leftTwips, paragraph.format.indent);
     format.setProperty(rightTwips, paragraph.format.rightIndent);
-    format.setNonBreakableLines(isTabular(QString::fromStdString(paragraph.text())));
+    format.setNonBreakableLines(isTabular(toQString(paragraph.text())));
     return format;
 }
 
@@ -83,7 +85,7 @@ QTextCharFormat charFormat(const CharacterFormat& format) {
     if (format.underline)
         result.setFontUnderline(true);
     if (!format.font.empty())
-        result.setFontFamilies({QString::fromStdString(format.font)});
+        result.setFontFamilies({toQString(format.font)});
     if (format.halfPoints > 0)
         result.setFontPointSize(format.halfPoints / 2.0);
     if (format.color >= 0)

@@ -1,5 +1,6 @@
 #include "desktop/session/DesktopPlatform.h"
 
+#include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/session/Session.h"
 #include "shell/numbers/RuntimeFailure.h"
@@ -44,7 +45,7 @@ QSettings settings() {
 }
 
 QString settingPath(const std::string& key) {
-    return QStringLiteral("Settings/") + QString::fromStdString(key);
+    return QStringLiteral("Settings/") + toQString(key);
 }
 
 QString toQString(const std::filesystem::path& path) {
@@ -63,7 +64,7 @@ QString mapped(const QString& word, const QString& fixedDirectory) {
 } // namespace
 
 QString nameFilter(const std::string& filter) {
-    const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+    const QStringList parts = toQString(filter).split(QLatin1Char('|'));
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         const QString pattern = QStringLiteral("(%1)").arg(parts[i + 1]);
@@ -113,13 +114,12 @@ void DesktopPlatform::showBox(const QString& text, const QString& title, Icon ic
 
 void DesktopPlatform::showMessage(const Message& message) {
     session_.sync();
-    showBox(QString::fromStdString(message.text), QString::fromStdString(message.title),
-            message.icon);
+    showBox(toQString(message.text), toQString(message.title), message.icon);
 }
 
 std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dialog) {
     session_.sync();
-    QFileDialog box(parentForDialogs(), QString::fromStdString(dialog.title));
+    QFileDialog box(parentForDialogs(), toQString(dialog.title));
     box.setAcceptMode(dialog.kind == FileDialog::Kind::open ? QFileDialog::AcceptOpen
                                                             : QFileDialog::AcceptSave);
     // Any name may be given: one that cannot be loaded is the command's affair.
@@ -129,7 +129,7 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
     if (dialog.fileName.empty()) {
         box.setDirectory(QApplication::applicationDirPath());
     } else {
-        const QFileInfo last(QString::fromStdString(dialog.fileName));
+        const QFileInfo last(toQString(dialog.fileName));
         box.setDirectory(last.absolutePath());
         box.selectFile(last.fileName());
     }
@@ -142,7 +142,7 @@ bool DesktopPlatform::showPrintDialog(const PrintDialog& dialog) {
     session_.sync();
     auto printer = std::make_unique<QPrinter>();
     QPrintDialog box(printer.get(), parentForDialogs());
-    box.setWindowTitle(QString::fromStdString(dialog.title));
+    box.setWindowTitle(toQString(dialog.title));
     box.setOption(QAbstractPrintDialog::PrintPageRange, false);
     box.setOption(QAbstractPrintDialog::PrintSelection, dialog.selection);
     if (dialog.selection)
@@ -176,7 +176,7 @@ std::string DesktopPlatform::clipboardText() {
 }
 
 void DesktopPlatform::setClipboardText(const std::string& text) {
-    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    QGuiApplication::clipboard()->setText(toQString(text));
 }
 
 std::optional<std::string> DesktopPlatform::setting(const std::string& key) {
@@ -187,13 +187,12 @@ std::optional<std::string> DesktopPlatform::setting(const std::string& key) {
 }
 
 void DesktopPlatform::setSetting(const std::string& key, const std::string& value) {
-    settings().setValue(settingPath(key), QString::fromStdString(value));
+    settings().setValue(settingPath(key), toQString(value));
 }
 
 bool DesktopPlatform::startProcess(const std::string& commandLine) {
     const QString directory = toQString(fixedDirectory());
-    QStringList words =
-        QString::fromStdString(commandLine).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QStringList words = toQString(commandLine).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (QString& word : words)
         word = mapped(word, directory);
     if (words.isEmpty())
@@ -229,7 +228,7 @@ void DesktopPlatform::endProgram(const Ending& ending) {
         session_.sync();
         showBox(QStringLiteral("Error '%1' en tiempo de ejecución:\n\n%2")
                     .arg(ending.number)
-                    .arg(QString::fromStdString(nombreFallo(ending.number))),
+                    .arg(toQString(nombreFallo(ending.number))),
                 programTitle(), Icon::error);
     }
     session_.end(ending);

@@ -1,3 +1,4 @@
+#include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "tests/desktop/report/ReportFixture.h"
 
@@ -136,6 +137,18 @@ private slots:
         QCOMPARE(on->view()->textCursor().selectedText(), QStringLiteral("\U0001F4A7"));
     }
 
+    void aByteOrderMarkCountsOnceToo() {
+        on->session->act([this] {
+            on->text().setSelText("\uFEFFabc");
+            on->text().select(2, 1);
+        });
+        QCOMPARE(on->view()->textCursor().selectedText(), QStringLiteral("b"));
+        type("x");
+        QCOMPARE(on->plainText(), QStringLiteral("\uFEFFaxc"));
+        QCOMPARE(on->text().selStart(), std::size_t{3});
+        verifyInLine();
+    }
+
     void theSelectionGoesBothWays() {
         type("uno dos");
         key(Qt::Key_Left, Qt::ShiftModifier | Qt::ControlModifier);
@@ -208,6 +221,23 @@ private slots:
         on->compose("Largo", 499);
         on->view()->grab();
         QVERIFY2(clock.elapsed() < 1500, qPrintable(QString::number(clock.elapsed())));
+    }
+
+    void aReportAtTheStartOfAVeryLongDocumentShowsAsSoonAsAtItsEnd() {
+        on->session->act([this] { on->text().assign(std::vector<Paragraph>(30000)); });
+        const auto taken = [this](std::size_t caret) {
+            on->session->act([&] { on->text().select(caret, 0); });
+            QElapsedTimer clock;
+            clock.start();
+            on->compose("Largo", 500);
+            return clock.elapsed();
+        };
+        const auto atEnd = taken(on->text().length());
+        const auto atStart = taken(0);
+        qInfo("%lld ms at the end, %lld ms at the start", static_cast<long long>(atEnd),
+              static_cast<long long>(atStart));
+        QVERIFY(atStart < 3 * atEnd + 200);
+        verifyInLine();
     }
 
     void typingInAVeryLongReportStaysFluid() {

@@ -5,6 +5,7 @@
 #include "desktop/report/DocumentFrame.h"
 #include "desktop/report/DocumentView.h"
 #include "desktop/report/ReportWindow.h"
+#include "desktop/richtext/QtText.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
 #include "shell/report/ReportWriter.h"
@@ -41,7 +42,7 @@ public:
 
     frmPadre& padre() { return *ventanaDeReportes(session->program()); }
     RichText& text() { return padre().active()->rtfText; }
-    QString plainText() { return QString::fromStdString(text().text()); }
+    QString plainText() { return toQString(text().text()); }
     ReportWindow* window() { return qobject_cast<ReportWindow*>(session->viewOf(padre())); }
     QMdiArea* area() { return window()->findChild<QMdiArea*>(); }
     DocumentView* view() {

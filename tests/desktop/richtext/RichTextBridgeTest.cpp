@@ -1,5 +1,7 @@
 #include "desktop/richtext/RichTextBridge.h"
 
+#include "desktop/richtext/QtText.h"
+
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QSignalSpy>
@@ -117,6 +119,19 @@ private slots:
         const RichText text = lines({"a\u2029b", "c"});
         richtext::update(document, text);
         QCOMPARE(document.blockCount(), 2);
+        QCOMPARE(document.characterCount() - 1, static_cast<int>(text.length()));
+    }
+
+    void aByteOrderMarkIsACharacterLikeAnyOther() {
+        QCOMPARE(toQString("\uFEFF\uFEFFa"), QStringLiteral("\uFEFF\uFEFFa"));
+        QCOMPARE(toQString("ñ\uFEFF"), QStringLiteral("ñ\uFEFF"));
+        QCOMPARE(toQString(""), QString());
+        QTextDocument document;
+        Paragraph first = plain("\uFEFFab");
+        first.runs.push_back({"\uFEFFcd", {true, false, false, "", 0, -1}});
+        const RichText text({first, plain("\uFEFF")});
+        richtext::update(document, text);
+        QVERIFY(richtext::paragraphsOf(document) == text.paragraphs());
         QCOMPARE(document.characterCount() - 1, static_cast<int>(text.length()));
     }
 
