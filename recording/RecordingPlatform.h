@@ -36,6 +36,7 @@ public:
     bool processesFail = false;
     std::filesystem::path directory;
     std::string separator = ".";
+    FixedFont font;
     std::optional<Ending> ending;
 
     void showMessage(const Message& message) override;
@@ -49,6 +50,7 @@ public:
     void setSetting(const std::string& key, const std::string& value) override;
     bool startProcess(const std::string& commandLine) override;
     std::filesystem::path fixedDirectory() override { return directory; }
+    FixedFont reportFont() override { return font; }
     std::string decimalSeparator() override { return separator; }
     void endProgram(const Ending& how) override { ending = how; }
 

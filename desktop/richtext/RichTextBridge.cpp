@@ -3,6 +3,7 @@
 #include "desktop/richtext/QtText.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
@@ -37,12 +38,6 @@ QString shown(const std::string& utf8) {
     return text;
 }
 
-/// Rows of tables and rules may not be broken: their columns stand below those of other lines.
-bool isTabular(const QString& text) {
-    return text.contains(u'\t') || text.contains(QLatin1String("   ")) ||
-           text.contains(QLatin1String("-----"));
-}
-
 Qt::Alignment alignmentOf(Alignment alignment) {
     switch (alignment) {
     case Alignment::right:
@@ -72,7 +67,7 @@ QTextBlockFormat blockFormat(const Paragraph& paragraph) {
     format.setRightMargin(pixels(paragraph.format.rightIndent));
     format.setProperty(leftTwips, paragraph.format.indent);
     format.setProperty(rightTwips, paragraph.format.rightIndent);
-    format.setNonBreakableLines(isTabular(toQString(paragraph.text())));
+    format.setNonBreakableLines(isTableLine(paragraph.text()));
     return format;
 }
 
@@ -155,6 +150,18 @@ QFont reportFont() {
            QFontMetricsF(font).horizontalAdvance(u'-') * widestLine > room)
         font.setPointSizeF(font.pointSizeF() - 0.5);
     return font;
+}
+
+FixedFont boxFont() {
+    QFont font = reportFont();
+    FixedFont box;
+    box.name = QFontInfo(font).family().toStdString();
+    box.halfPoints = qRound(font.pointSizeF() * 2);
+    // So large that no rounding to pixels shows.
+    constexpr int pixels = 1000;
+    font.setPixelSize(pixels);
+    box.width = QFontMetricsF(font).horizontalAdvance(u'-') / pixels;
+    return box;
 }
 
 void prepare(QTextDocument& document, const QFont& font) {

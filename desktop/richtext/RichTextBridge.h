@@ -21,6 +21,8 @@ namespace caudalera::richtext {
 /// only a font of one width for all characters lines the columns up. It takes the system's size,
 /// or smaller if the widest tables would not fit a maximised window on the screen.
 QFont reportFont();
+/// The same font as the model names it, by the family that stands for it on this system.
+FixedFont boxFont();
 /// Default font and tab stops (every eight characters) of a document that shows a report.
 void prepare(QTextDocument& document, const QFont& font);
 

@@ -141,6 +141,8 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
 bool DesktopPlatform::showPrintDialog(const PrintDialog& dialog) {
     session_.sync();
     auto printer = std::make_unique<QPrinter>();
+    // As a saved report has it: tables are wide.
+    printer->setPageOrientation(QPageLayout::Landscape);
     QPrintDialog box(printer.get(), parentForDialogs());
     box.setWindowTitle(toQString(dialog.title));
     box.setOption(QAbstractPrintDialog::PrintPageRange, false);
@@ -221,6 +223,10 @@ std::filesystem::path DesktopPlatform::fixedDirectory() {
                                .filePath(QStringLiteral("../share/caudalera")))
         .toStdU16String();
 #endif
+}
+
+FixedFont DesktopPlatform::reportFont() {
+    return richtext::boxFont();
 }
 
 void DesktopPlatform::endProgram(const Ending& ending) {

@@ -39,6 +39,7 @@ public:
     /// What F1 does: opens the help file, silently nothing if there is none.
     bool openHelp();
     std::filesystem::path fixedDirectory() override;
+    FixedFont reportFont() override;
     /// As it was when the program started: every number that is shown asks for it.
     std::string decimalSeparator() override { return decimalSeparator_; }
     void endProgram(const Ending& ending) override;

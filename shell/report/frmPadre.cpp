@@ -103,7 +103,7 @@ void frmPadre::guardar() {
         if (path.empty())
             return;
     }
-    escribirArchivo(path, writeRtf(documento.rtfText));
+    escribirArchivo(path, writeRtf(documento.rtfText, platform().reportFont()));
 }
 
 void frmPadre::guardarComo() {
@@ -114,7 +114,7 @@ void frmPadre::guardarComo() {
     if (path.empty())
         return;
     active()->caption = path;
-    escribirArchivo(path, writeRtf(active()->rtfText));
+    escribirArchivo(path, writeRtf(active()->rtfText, platform().reportFont()));
 }
 
 void frmPadre::imprimir() {
@@ -127,7 +127,8 @@ void frmPadre::imprimir() {
 
 void frmPadre::copiar() {
     if (active())
-        platform().setClipboardText(writeRtf(active()->rtfText.selection()));
+        platform().setClipboardText(
+            writeRtf(active()->rtfText.selection(), platform().reportFont()));
 }
 
 void frmPadre::cortar() {

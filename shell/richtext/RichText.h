@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/text/FixedFont.h"
+
 namespace caudalera {
 
 enum class Alignment { left, right, center, justify };
@@ -132,13 +134,20 @@ private:
     std::uint64_t revision_ = 0;
 };
 
+/// Whether a line belongs to a table or is a rule. Such a line may not be broken, since its columns
+/// stand below those of other lines.
+bool isTableLine(std::string_view line);
+
 /// RTF source of the text: 7-bit, with a font and a colour table, \li \ri \ql \qr \qc \qj for
-/// paragraphs, \b \i \ul \f \fs \cf for characters, \uN with a fallback for what is not ASCII.
-std::string writeRtf(const RichText& text);
+/// paragraphs, \b \i \ul \f \fs \cf for characters, \uN with a fallback for what is not ASCII. The
+/// box's font and size are the whole file's; only runs that set one of their own name it. Paper and
+/// tab stops are such that the columns of tables stand as in the box.
+std::string writeRtf(const RichText& text, const FixedFont& box = {});
 
 /// Reads RTF as far as it can be read: a cut, unbalanced or hostile source gives what stood before
 /// the damage, in time and memory linear in its length. A source that does not begin with "{\rtf"
-/// is plain text: UTF-8 if it is valid as that, otherwise Windows-1252.
+/// is plain text: UTF-8 if it is valid as that, otherwise Windows-1252. The size that our own files
+/// state for the whole is that of the box and none of the runs'.
 RichText readRtf(std::string_view source);
 
 /// Whether a source begins as RTF does.

@@ -25,7 +25,7 @@ constexpr std::int32_t largestHalfPoints = 3276;
 /// More fallback characters for one \u than any writer gives are taken for damage.
 constexpr std::int32_t longestFallback = 255;
 
-enum class Destination { text, skipped, fonts, colors };
+enum class Destination { text, skipped, fonts, colors, generator };
 
 /// What a group's end takes back.
 struct GroupState {
@@ -65,6 +65,8 @@ private:
     std::size_t fallbackLeft_ = 0;
     char32_t highSurrogate_ = 0;
 
+    std::string generator_;
+    bool own_ = false;
     RtfTables tables_;
     RtfParagraphs paragraphs_;
 };
@@ -124,6 +126,8 @@ bool Reader::closeGroup() {
     flushSurrogate();
     if (state_.destination == Destination::fonts) {
         tables_.endFont();
+    } else if (state_.destination == Destination::generator) {
+        own_ = generator_ == rtfGenerator;
     }
     if (uncountedDepth_ > 0) {
         --uncountedDepth_;
@@ -139,7 +143,10 @@ bool Reader::closeGroup() {
 }
 
 void Reader::takeWord(const RtfToken& token) {
-    const RtfWord word = starred_ ? RtfWord{RtfWordKind::skipped, 0} : findRtfWord(token.text);
+    RtfWord word = findRtfWord(token.text);
+    if (starred_ && word.kind != RtfWordKind::generator) {
+        word.kind = RtfWordKind::skipped;
+    }
     starred_ = false;
     switch (word.kind) {
     case RtfWordKind::unknown:
@@ -152,6 +159,11 @@ void Reader::takeWord(const RtfToken& token) {
         if (state_.destination == Destination::text) {
             state_.destination =
                 word.kind == RtfWordKind::fonts ? Destination::fonts : Destination::colors;
+        }
+        break;
+    case RtfWordKind::generator:
+        if (state_.destination == Destination::text) {
+            state_.destination = Destination::generator;
         }
         break;
     case RtfWordKind::character:
@@ -234,6 +246,10 @@ void Reader::takeCharacterWord(const RtfWord& word, const RtfToken& token) {
         format.font = token.parameter;
         break;
     case RtfWordKind::fontSize:
+        // Outside all groups our own files state the box's size, which its runs leave open.
+        if (own_ && outer_.size() == 1) {
+            return;
+        }
         format.halfPoints = std::clamp(token.parameter, 0, largestHalfPoints);
         break;
     case RtfWordKind::color:
@@ -335,6 +351,11 @@ void Reader::addCharacter(char32_t character) {
         break;
     case Destination::colors:
         tables_.addColorCharacter(character);
+        break;
+    case Destination::generator:
+        if (character != ';' && generator_.size() <= rtfGenerator.size()) {
+            utf8::append(generator_, character);
+        }
         break;
     case Destination::text:
         if (character == '\n') {

@@ -5,12 +5,16 @@
 
 namespace caudalera {
 
+/// What our own files name as the program that wrote them.
+inline constexpr std::string_view rtfGenerator = "Caudalera";
+
 enum class RtfWordKind {
     unknown,
     /// Its group holds nothing of the text.
     skipped,
     fonts,
     colors,
+    generator,
     /// Stands for the character `value`.
     character,
     unit,

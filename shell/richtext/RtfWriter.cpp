@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -9,6 +10,8 @@
 
 #include "shell/richtext/CodePages.h"
 #include "shell/richtext/RichText.h"
+#include "shell/richtext/RtfPage.h"
+#include "shell/richtext/RtfWords.h"
 #include "shell/text/Utf8.h"
 
 namespace caudalera {
@@ -61,11 +64,21 @@ void appendText(std::string& rtf, std::string_view text) {
     }
 }
 
+/// Entry of the font table without its braces; a semicolon ends the name and cannot stand in it.
+std::string fontEntry(std::size_t number, std::string_view family, std::string name) {
+    std::string rtf = "\\f" + std::to_string(number);
+    rtf += family;
+    rtf += "\\fcharset0 ";
+    std::replace(name.begin(), name.end(), ';', ' ');
+    appendText(rtf, name);
+    return rtf + ';';
+}
+
 /// Fonts and colours of a text in the order of their first use. Number 0 of both tables is the
 /// default one, which no run names.
 class Tables {
 public:
-    explicit Tables(const RichText& text) {
+    Tables(const RichText& text, const FixedFont& box) : box_(box) {
         for (const Paragraph& paragraph : text.paragraphs()) {
             for (const TextRun& run : paragraph.runs) {
                 add(run.format);
@@ -77,15 +90,10 @@ public:
     std::size_t color(std::int32_t color) const { return colorNumbers_.at(color); }
 
     std::string source() const {
-        // Readers need a name for the default font, too; ours never meets a run in it.
-        std::string rtf = "{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}";
+        // Where the box's font is missing, family and pitch still say what stands for it.
+        std::string rtf = "{\\fonttbl{" + fontEntry(0, "\\fmodern\\fprq1", box_.name) + "}";
         for (std::size_t i = 0; i < fonts_.size(); ++i) {
-            rtf += "{\\f" + std::to_string(i + 1) + "\\fnil\\fcharset0 ";
-            // A semicolon would end the name.
-            std::string name = fonts_[i];
-            std::replace(name.begin(), name.end(), ';', ' ');
-            appendText(rtf, name);
-            rtf += ";}";
+            rtf += "{" + fontEntry(i + 1, "\\fnil", fonts_[i]) + "}";
         }
         rtf += "}\r\n{\\colortbl ;";
         for (const std::int32_t color : colors_) {
@@ -109,13 +117,29 @@ private:
         }
     }
 
+    const FixedFont& box_;
     std::vector<std::string> fonts_;
     std::vector<std::int32_t> colors_;
     std::unordered_map<std::string, std::size_t> fontNumbers_;
     std::unordered_map<std::int32_t, std::size_t> colorNumbers_;
 };
 
-std::string paragraphSource(const ParagraphFormat& format) {
+/// Style, paper, tab stops and size of the whole. Word processors take the size for a default only
+/// where the style and the running text both state it, and every \plain would take it back.
+std::string documentSource(const RtfPage& page, int halfPoints) {
+    const std::string size = "\\fs" + std::to_string(halfPoints);
+    const std::string sides = std::to_string(page.sideMargin);
+    const std::string ends = std::to_string(page.endMargin);
+    std::string rtf = "{\\stylesheet{\\s0\\f0" + size + " Normal;}}\r\n";
+    rtf += "{\\*\\generator ";
+    rtf += rtfGenerator;
+    rtf += ";}\r\n\\paperw" + std::to_string(page.width) + "\\paperh" + std::to_string(page.height);
+    rtf += "\\margl" + sides + "\\margr" + sides + "\\margt" + ends + "\\margb" + ends;
+    rtf += "\\landscape\\deftab" + std::to_string(std::lround(page.tabDistance));
+    return rtf + size + "\r\n";
+}
+
+std::string paragraphSource(const ParagraphFormat& format, const RtfPage& page) {
     std::string rtf = "\\pard";
     switch (format.alignment) {
     case Alignment::left:
@@ -131,12 +155,21 @@ std::string paragraphSource(const ParagraphFormat& format) {
         rtf += "\\qj";
         break;
     }
-    return rtf + "\\li" + std::to_string(format.indent) + "\\ri" +
-           std::to_string(format.rightIndent);
+    rtf += "\\li" + std::to_string(format.indent) + "\\ri" + std::to_string(format.rightIndent);
+    if (format.indent == 0) {
+        return rtf;
+    }
+    // Tab stops that are not stated are counted from the margin, those of the box from the indent.
+    for (double at = format.indent + page.tabDistance; at < page.textWidth();
+         at += page.tabDistance) {
+        rtf += "\\tx" + std::to_string(std::lround(at));
+    }
+    return rtf;
 }
 
+/// What sets a run apart; empty for one in the format of the whole.
 std::string characterSource(const CharacterFormat& format, const Tables& tables) {
-    std::string rtf = "\\plain";
+    std::string rtf;
     if (!format.font.empty()) {
         rtf += "\\f" + std::to_string(tables.font(format.font));
     }
@@ -152,34 +185,38 @@ std::string characterSource(const CharacterFormat& format, const Tables& tables)
     return rtf;
 }
 
+void appendRun(std::string& rtf, const TextRun& run, const Tables& tables) {
+    const std::string format = characterSource(run.format, tables);
+    if (format.empty()) {
+        appendText(rtf, run.text);
+        return;
+    }
+    rtf += '{' + format + ' ';
+    appendText(rtf, run.text);
+    rtf += '}';
+}
+
 } // namespace
 
-std::string writeRtf(const RichText& text) {
-    const Tables tables(text);
-    std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang3082\\uc1\r\n" + tables.source();
-    // Formats hold until changed, also across paragraphs, so only changes are written.
-    const ParagraphFormat* paragraphFormat = nullptr;
-    const CharacterFormat* characterFormat = nullptr;
+std::string writeRtf(const RichText& text, const FixedFont& box) {
+    const Tables tables(text, box);
+    const RtfPage page = pageFor(text, box);
+    std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang3082\\uc1\r\n" + tables.source() +
+                      documentSource(page, box.halfPoints);
+    // Paragraph formats hold until changed, so only changes are written.
+    const ParagraphFormat* format = nullptr;
     for (const Paragraph& paragraph : text.paragraphs()) {
-        std::string changes;
-        if (paragraphFormat == nullptr || *paragraphFormat != paragraph.format) {
-            changes += paragraphSource(paragraph.format);
-            paragraphFormat = &paragraph.format;
+        if (format == nullptr || *format != paragraph.format) {
+            rtf += paragraphSource(paragraph.format, page);
+            rtf += paragraph.runs.empty() ? "" : " ";
+            format = &paragraph.format;
         }
         for (const TextRun& run : paragraph.runs) {
-            if (characterFormat == nullptr || *characterFormat != run.format) {
-                changes += characterSource(run.format, tables);
-                characterFormat = &run.format;
-            }
-            if (!changes.empty()) {
-                rtf += changes + ' ';
-                changes.clear();
-            }
-            appendText(rtf, run.text);
+            appendRun(rtf, run, tables);
         }
         // Every paragraph is ended, the last one too: readers take no paragraph to begin behind
         // the last \par.
-        rtf += changes + "\\par\r\n";
+        rtf += "\\par\r\n";
     }
     return rtf + "}\r\n";
 }

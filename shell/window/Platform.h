@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/text/FixedFont.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -71,6 +73,8 @@ public:
     virtual bool startProcess(const std::string& commandLine) = 0;
     /// Where the help and the table files are.
     virtual std::filesystem::path fixedDirectory() = 0;
+    /// What the boxes of reports show in where a text sets no font.
+    virtual FixedFont reportFont() = 0;
     /// What masks write for their point.
     virtual std::string decimalSeparator() = 0;
     /// Called once, when the program has ended; tells a fatal failure to the user.

@@ -5,6 +5,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QElapsedTimer>
+#include <QFontInfo>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QScrollBar>
@@ -147,6 +148,12 @@ private slots:
         QCOMPARE(on->plainText(), QStringLiteral("\uFEFFaxc"));
         QCOMPARE(on->text().selStart(), std::size_t{3});
         verifyInLine();
+    }
+
+    void aSavedReportNamesTheFontOfTheBox() {
+        const FixedFont saved = on->session->platform().reportFont();
+        QCOMPARE(toQString(saved.name), QFontInfo(on->view()->font()).family());
+        QCOMPARE(saved.halfPoints / 2.0, on->view()->font().pointSizeF());
     }
 
     void theSelectionGoesBothWays() {

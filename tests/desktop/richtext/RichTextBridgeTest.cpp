@@ -3,12 +3,15 @@
 #include "desktop/richtext/QtText.h"
 
 #include <QBuffer>
+#include <QFontInfo>
 #include <QPdfWriter>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <cmath>
 #include <random>
 
 using namespace caudalera;
@@ -133,6 +136,20 @@ private slots:
         richtext::update(document, text);
         QVERIFY(richtext::paragraphsOf(document) == text.paragraphs());
         QCOMPARE(document.characterCount() - 1, static_cast<int>(text.length()));
+    }
+
+    void theModelKnowsTheFontByTheFamilyThatIsThere() {
+        const QFont font = richtext::reportFont();
+        const FixedFont box = richtext::boxFont();
+        QCOMPARE(toQString(box.name), QFontInfo(font).family());
+        QCOMPARE(box.halfPoints / 2.0, font.pointSizeF());
+        // At 200 points, where whole pixels tell the width to a third of a per cent.
+        QFont large = font;
+        large.setPointSizeF(200);
+        const QFontMetricsF metrics(large);
+        const double points = metrics.horizontalAdvance(u'm') * 72 /
+                              QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+        QVERIFY(std::abs(points / 200 - box.width) < 0.005);
     }
 
     void aFragmentHasThePartsOfItsBlocks() {

@@ -58,6 +58,23 @@ TEST_F(ReportFilesTest, SavingANewDocumentAsksEachTimeAndKeepsItsCaption) {
     EXPECT_EQ(saved(file("b.rtf")), "uno\nañ€");
 }
 
+TEST_F(ReportFilesTest, WhatIsSavedOrCopiedNamesTheBoxesFont) {
+    platform.font.name = "Fuente del recuadro";
+    platform.font.halfPoints = 17;
+    write("uno");
+    click("mnuFileSave", {file("a.rtf")});
+    click("mnuFileSaveAs", {file("b.rtf")});
+    select(0, 3);
+    click("mnuEditCopy");
+    for (const std::string& rtf :
+         {leerArchivo(file("a.rtf")), leerArchivo(file("b.rtf")), platform.clipboard}) {
+        EXPECT_NE(rtf.find(" Fuente del recuadro;"), std::string::npos) << rtf;
+        EXPECT_NE(rtf.find("\\fs17 Normal;"), std::string::npos) << rtf;
+    }
+    click("mnuFileOpen", {file("a.rtf")});
+    EXPECT_EQ(document().rtfText.paragraphs().front().runs.front().format, CharacterFormat{});
+}
+
 TEST_F(ReportFilesTest, ACancelledSaveDoesNothing) {
     write("uno");
     click("mnuFileSave", {std::nullopt});

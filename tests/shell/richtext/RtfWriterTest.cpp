@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -18,12 +19,30 @@
 namespace caudalera {
 namespace {
 
-/// What stands behind the tables.
+/// What stands behind the tables and the line of paper and size.
 std::string body(const RichText& text) {
     const std::string rtf = writeRtf(text);
-    const std::size_t tables = rtf.find("{\\colortbl");
-    const std::size_t begin = rtf.find("\r\n", tables) + 2;
+    const std::size_t paper = rtf.find("\\paperw");
+    const std::size_t begin = rtf.find("\r\n", paper) + 2;
     return rtf.substr(begin);
+}
+
+/// Tab stops of a paragraph: every eight characters from its indent to the end of the line. By the
+/// default font that is every 8 * 0.6 * 9 points, 864 twips; the text on A4 is 16838 - 2 * 360
+/// = 16118 twips wide.
+std::string stops(int indent) {
+    std::string all;
+    for (int at = indent + 864; at < 16118; at += 864) {
+        all += "\\tx" + std::to_string(at);
+    }
+    return all;
+}
+
+/// The number behind a control word, the first time that the source has it; -1 if it has it not.
+int number(const std::string& rtf, const std::string& word) {
+    std::smatch found;
+    const bool has = std::regex_search(rtf, found, std::regex("\\\\" + word + "(-?\\d+)"));
+    return has ? std::stoi(found[1]) : -1;
 }
 
 RichText plain(std::string_view text) {
@@ -43,7 +62,7 @@ TEST(RtfWriterTest, BeginsAndEndsAsRtfDoes) {
 
 TEST(RtfWriterTest, EndsEveryParagraph) {
     EXPECT_EQ(body(plain("")), "\\pard\\ql\\li0\\ri0\\par\r\n}\r\n");
-    EXPECT_EQ(body(plain("a\n\nb\n")), "\\pard\\ql\\li0\\ri0\\plain a\\par\r\n"
+    EXPECT_EQ(body(plain("a\n\nb\n")), "\\pard\\ql\\li0\\ri0 a\\par\r\n"
                                        "\\par\r\n"
                                        "b\\par\r\n"
                                        "\\par\r\n}\r\n");
@@ -51,14 +70,14 @@ TEST(RtfWriterTest, EndsEveryParagraph) {
 
 TEST(RtfWriterTest, EscapesWhatRtfReserves) {
     EXPECT_EQ(body(plain("{a}\\\tb\x01")),
-              "\\pard\\ql\\li0\\ri0\\plain \\{a\\}\\\\\\tab b\\'01\\par\r\n}\r\n");
+              "\\pard\\ql\\li0\\ri0 \\{a\\}\\\\\\tab b\\'01\\par\r\n}\r\n");
 }
 
 TEST(RtfWriterTest, WritesUnicodeWithAFallback) {
     // U+00F1 = 241 and U+20AC = 8364 are F1 and 80 in Windows-1252; U+FFFD = 65533 counts as
     // 65533 - 65536; U+1F600 is the pair D83D DE00, 55357 - 65536 and 56832 - 65536.
     EXPECT_EQ(body(plain("ñ€λ\uFFFD\U0001F600")),
-              "\\pard\\ql\\li0\\ri0\\plain \\u241\\'f1\\u8364\\'80\\u955?\\u-3?\\u-10179?\\u-8704?"
+              "\\pard\\ql\\li0\\ri0 \\u241\\'f1\\u8364\\'80\\u955?\\u-3?\\u-10179?\\u-8704?"
               "\\par\r\n}\r\n");
 }
 
@@ -67,10 +86,13 @@ TEST(RtfWriterTest, WritesParagraphFormatsWhereTheyChange) {
                          {{{"b", {}}}, {Alignment::center, 200, 300}},
                          {{}, {Alignment::right, -5, 0}},
                          {{{"c", {}}}, {Alignment::justify, 0, 0}}});
-    EXPECT_EQ(body(text), "\\pard\\qc\\li200\\ri300\\plain a\\par\r\n"
-                          "b\\par\r\n"
-                          "\\pard\\qr\\li-5\\ri0\\par\r\n"
-                          "\\pard\\qj\\li0\\ri0 c\\par\r\n}\r\n");
+    EXPECT_EQ(body(text), "\\pard\\qc\\li200\\ri300" + stops(200) +
+                              " a\\par\r\n"
+                              "b\\par\r\n"
+                              "\\pard\\qr\\li-5\\ri0" +
+                              stops(-5) +
+                              "\\par\r\n"
+                              "\\pard\\qj\\li0\\ri0 c\\par\r\n}\r\n");
 }
 
 TEST(RtfWriterTest, WritesCharacterFormatsByTheTables) {
@@ -90,8 +112,87 @@ TEST(RtfWriterTest, WritesCharacterFormatsByTheTables) {
                        "{\\colortbl ;\\red192\\green10\\blue32;}\r\n"),
               std::string::npos)
         << rtf;
-    EXPECT_EQ(body(text), "\\pard\\ql\\li0\\ri0\\plain\\f1\\fs17\\b\\i a"
-                          "\\plain\\f2\\cf1\\ul b\\plain c\\par\r\n}\r\n");
+    EXPECT_EQ(body(text), "\\pard\\ql\\li0\\ri0 {\\f1\\fs17\\b\\i a}"
+                          "{\\f2\\cf1\\ul b}c\\par\r\n}\r\n");
+}
+
+TEST(RtfWriterTest, TheBoxesFontIsThatOfTheWholeFileAndOfNoPiece) {
+    FixedFont box;
+    box.name = "Liberation Mono; {x}";
+    box.halfPoints = 20;
+    CharacterFormat heavy;
+    heavy.bold = true;
+    const RichText text({{{{"a", {}}, {"b", heavy}}, {Alignment::left, 200, 200}}});
+    const std::string rtf = writeRtf(text, box);
+    EXPECT_NE(rtf.find("\\deff0"), std::string::npos);
+    EXPECT_NE(rtf.find("{\\fonttbl{\\f0\\fmodern\\fprq1\\fcharset0 Liberation Mono  \\{x\\};}}"),
+              std::string::npos)
+        << rtf;
+    EXPECT_NE(rtf.find("{\\stylesheet{\\s0\\f0\\fs20 Normal;}}"), std::string::npos) << rtf;
+    const std::size_t body = rtf.find("\\pard");
+    EXPECT_EQ(rtf.substr(body - 7, 7), "\\fs20\r\n");
+    EXPECT_FALSE(std::regex_search(rtf.substr(body), std::regex("\\\\(f|fs|plain)[0-9 \\\\]")));
+    EXPECT_EQ(show(readRtf(rtf)), "l200/200 [a][b|b]\n");
+}
+
+TEST(RtfWriterTest, TheBoxesSizeIsLeftOpenInOurOwnFilesAlone) {
+    const std::string others = "\\fs18\r\n\\pard a{\\fs17 b}\\par}";
+    EXPECT_EQ(show(readRtf("{\\rtf1{\\*\\generator Caudalera;}" + others)), "l0/0 [a][b|,17]\n");
+    EXPECT_EQ(show(readRtf("{\\rtf1" + others)), "l0/0 [a|,18][b|,17]\n");
+    EXPECT_EQ(show(readRtf("{\\rtf1{\\*\\generator Caudaleras;}" + others)),
+              "l0/0 [a|,18][b|,17]\n");
+}
+
+TEST(RtfWriterTest, A130HyphensStandOnALine) {
+    // Widths of common fixed-pitch fonts, as parts of their size.
+    for (const double width : {0.55, 0.6, 0.602}) {
+        for (const int halfPoints : {16, 17, 18, 19, 20, 21, 22, 24, 28}) {
+            FixedFont box;
+            box.halfPoints = halfPoints;
+            box.width = width;
+            RichText text;
+            text.setSelIndent(200);
+            text.setSelRightIndent(200);
+            text.setSelText(std::string(130, '-'));
+            const std::string rtf = writeRtf(text, box);
+            const int line = number(rtf, "paperw") - number(rtf, "margl") - number(rtf, "margr") -
+                             number(rtf, "li") - number(rtf, "ri");
+            // A point is 20 twips.
+            const double needed = 130 * width * number(rtf, "fs") / 2 * 20;
+            EXPECT_LE(needed, line) << width << " " << halfPoints;
+            EXPECT_NE(rtf.find("\\landscape"), std::string::npos);
+            EXPECT_GT(number(rtf, "paperw"), number(rtf, "paperh"));
+            // At up to 10 points A4 does: 130 * 0.602 * 200 = 15652 of 16838 - 720 - 400 = 15718.
+            EXPECT_EQ(number(rtf, "paperw"), needed > 15718 ? 23811 : 16838);
+        }
+    }
+}
+
+TEST(RtfWriterTest, WiderTablesTakeWiderPaper) {
+    const auto paperOf = [](std::string_view line) {
+        return number(writeRtf(plain(line)), "paperw");
+    };
+    // The default font has 108 twips a character: 149 of them are 16092 and stand in the 16118 of
+    // A4, 150 are 16200. 18 tabs reach column 144.
+    EXPECT_EQ(paperOf(std::string(149, '-')), 16838);
+    EXPECT_EQ(paperOf(std::string(150, '-')), 23811);
+    EXPECT_EQ(paperOf(std::string(18, '\t') + "12345"), 16838);
+    EXPECT_EQ(paperOf(std::string(18, '\t') + "123456"), 23811);
+    // Prose may be broken.
+    EXPECT_EQ(paperOf(std::string(400, 'a')), 16838);
+}
+
+TEST(RtfWriterTest, TabStopsStandEveryEightCharacters) {
+    FixedFont box;
+    box.halfPoints = 20;
+    box.width = 0.602;
+    // 8 * 0.602 * 200 = 963.2
+    EXPECT_EQ(number(writeRtf(plain("\ta"), box), "deftab"), 963);
+    RichText indented;
+    indented.setSelIndent(200);
+    indented.setSelText("\ta");
+    const std::string rtf = writeRtf(indented, box);
+    EXPECT_NE(rtf.find("\\li200\\ri0\\tx1163\\tx2126\\tx3090\\tx4053"), std::string::npos) << rtf;
 }
 
 TEST(RtfWriterTest, TextsComeBackAsTheyWere) {
