@@ -10,6 +10,8 @@ namespace caudalera {
 /// A signed 16-bit counter: a value past its range is failure 6.
 class Integer16 {
 public:
+    static constexpr long max = std::numeric_limits<std::int16_t>::max();
+
     constexpr Integer16() = default;
     constexpr Integer16(long value) : value_(checked(value)) {}
 
@@ -19,8 +21,7 @@ public:
 
 private:
     static constexpr std::int16_t checked(long value) {
-        if (value < std::numeric_limits<std::int16_t>::min() ||
-            value > std::numeric_limits<std::int16_t>::max())
+        if (value < std::numeric_limits<std::int16_t>::min() || value > max)
             throw RuntimeFailure(Failure::overflow);
         return static_cast<std::int16_t>(value);
     }

@@ -1,5 +1,7 @@
 #include "shell/worksheet/PastedBlock.h"
 
+#include "shell/numbers/Integer16.h"
+
 #include <algorithm>
 
 namespace caudalera {
@@ -142,6 +144,14 @@ std::string PastedBlock::refusalFor(const MSFlexGrid& grid) const {
     if (added > 0 && !completesOneRow && width < dataColumns) {
         return std::string(nothingPasted) + "cada fila nueva lleva " + std::to_string(dataColumns) +
                " datos y las del bloque tienen " + std::to_string(width);
+    }
+    const bool appends = added > 0 && width == room;
+    if (appends && grid.Rows() + added > Integer16::max) {
+        const long others = grid.FixedRows() + 1;
+        return std::string(nothingPasted) + "con el bloque habría " +
+               std::to_string(grid.Rows() + added - others) +
+               " filas de datos y en la cuadrícula caben " +
+               std::to_string(Integer16::max - others);
     }
     return {};
 }

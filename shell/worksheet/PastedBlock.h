@@ -21,8 +21,8 @@ public:
     std::size_t columns() const { return rows_.empty() ? 0 : rows_.front().size(); }
     /// Why it can't be entered; empty if it can.
     const std::string& refusal() const { return refusal_; }
-    /// The same for a grid with its current cell: a block that is too wide, or whose new rows would
-    /// not be complete.
+    /// The same for a grid with its current cell: a block that is too wide, whose new rows would
+    /// not be complete, or that makes more rows than a grid counts.
     std::string refusalFor(const MSFlexGrid& grid) const;
 
     /// Enters the values as typing does, each with its ENTER, from the current cell on: downward

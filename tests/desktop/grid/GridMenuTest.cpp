@@ -126,6 +126,16 @@ private slots:
         QCOMPARE(desktop_->row(2), QStringLiteral("[->]||"));
     }
 
+    void aBlockThatPassesTheLastRowIsRefusedBeforeItsFirst() {
+        desktop_->expectBox({"No se pegó nada: con el bloque habría 32766 filas de datos y en la "
+                             "cuadrícula caben 32765",
+                             "Caudalera", information});
+        paste(QStringLiteral("1\t2\n").repeated(32766));
+        QCOMPARE(desktop_->grid().Rows(), 2L);
+        QCOMPARE(desktop_->row(1), QStringLiteral("[?]||"));
+        QVERIFY(!desktop_->program().ended());
+    }
+
     void aBlockPastedIntoTheOpenBoxGoesToTheGrid() {
         desktop_->type("9");
         paste("1\t2\n3\t4\n");

@@ -1,0 +1,67 @@
+#include "shell/worksheet/PastedBlock.h"
+#include "tests/support/TestSheet.h"
+
+#include <string>
+
+namespace caudalera {
+namespace {
+
+// A grid counts its rows in 16 bits: 32767 with the header and the append row, so that 32765 rows
+// of data find room.
+class PastedBlockRowsTest : public SheetTest {
+protected:
+    /// A grid of so many rows of data, the append row current.
+    MSFlexGrid& filled(const std::string& name, long data) {
+        MSFlexGrid& grid = sheet(name).grdt;
+        grid.setRows(data + 2);
+        grid.setRow(grid.Rows() - 1);
+        return grid;
+    }
+    static PastedBlock block(long rows, const std::string& row) {
+        std::string text;
+        for (long i = 0; i < rows; ++i)
+            text += row + "\n";
+        return PastedBlock(text);
+    }
+};
+
+TEST_F(PastedBlockRowsTest, ABlockThatPassesTheLastRowIsRefused) {
+    const MSFlexGrid& grid = filled("frmParamEsta", 0);
+    EXPECT_EQ(block(32765, "1").refusalFor(grid), "");
+    EXPECT_EQ(block(32766, "1").refusalFor(grid),
+              "No se pegó nada: con el bloque habría 32766 filas de datos y en la cuadrícula caben "
+              "32765");
+}
+
+TEST_F(PastedBlockRowsTest, TheRowsThatItReplacesAreNotCounted) {
+    MSFlexGrid& grid = filled("frmRegreLineal", 32760);
+    EXPECT_EQ(block(5, "1\t2").refusalFor(grid), "");
+    EXPECT_NE(block(6, "1\t2").refusalFor(grid), "");
+    grid.setRow(32751);
+    EXPECT_EQ(block(15, "1\t2").refusalFor(grid), "");
+    EXPECT_EQ(block(16, "1\t2").refusalFor(grid),
+              "No se pegó nada: con el bloque habría 32766 filas de datos y en la cuadrícula caben "
+              "32765");
+    grid.setCol(2);
+    EXPECT_EQ(block(10, "2").refusalFor(grid), "") << "it ends with the last row of data";
+}
+
+TEST_F(PastedBlockRowsTest, ARowThatIsNotCompletedIsNoNewOne) {
+    MSFlexGrid& grid = filled("frmRegreLineal", 32765);
+    EXPECT_EQ(block(1, "1").refusalFor(grid), "");
+    grid.setCol(2);
+    EXPECT_NE(block(1, "2").refusalFor(grid), "");
+}
+
+TEST_F(PastedBlockRowsTest, TheLastRowsThatFindRoomAreEntered) {
+    MSFlexGrid& grid = filled("frmRegreLineal", 32764);
+    const PastedBlock last = block(1, "1\t2");
+    ASSERT_EQ(last.refusalFor(grid), "");
+    last.enter(program, grid);
+    EXPECT_FALSE(program.ended());
+    EXPECT_EQ(grid.Rows(), 32767);
+    EXPECT_EQ(rowText("grdt", 32765), " 32765|1.0|2.0");
+}
+
+} // namespace
+} // namespace caudalera
