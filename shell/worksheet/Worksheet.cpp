@@ -32,12 +32,7 @@ Worksheet::Worksheet(Program& program, std::string name, std::string text, std::
         avanzar();
         grdt.setTopRow(grdt.Row());
     };
-    grdt.onGotFocus = [this] {
-        if (!txtt.visible)
-            return;
-        grdt.setTextMatrix(grdt.Row(), grdt.Col(), txtt.text());
-        txtt.visible = false;
-    };
+    grdt.onGotFocus = [this] { guardarEdicion(); };
     grdt.onLeaveCell = grdt.onScroll = [this] { ocultarTxtt(); };
     grdt.onRowColChange = [this] { cambioDeFila(); };
     grdt.onRightClick = [this] { botonDerecho(); };
@@ -131,6 +126,13 @@ void Worksheet::empezarEdicion(char32_t codigo) {
     setFocus(txtt);
 }
 
+void Worksheet::guardarEdicion() {
+    if (!txtt.visible)
+        return;
+    grdt.setTextMatrix(grdt.Row(), grdt.Col(), txtt.text());
+    txtt.visible = false;
+}
+
 bool Worksheet::teclaEnTxtt(Key key) {
     switch (key.kind) {
     case Key::Kind::escape:
@@ -138,17 +140,20 @@ bool Worksheet::teclaEnTxtt(Key key) {
         setFocus(grdt);
         return true;
     case Key::Kind::down:
+        guardarEdicion();
         setFocus(grdt);
         if (grdt.Row() < filaDeAlta())
             grdt.setRow(grdt.Row() + 1);
         return true;
     case Key::Kind::up:
+        guardarEdicion();
         setFocus(grdt);
         if (grdt.Row() > 1)
             grdt.setRow(grdt.Row() - 1);
         return true;
     case Key::Kind::enter:
         txtt.enterText(formatear(Real(Val(txtt.text())), mascaraCelda));
+        guardarEdicion();
         setFocus(grdt);
         avanzar();
         return true;

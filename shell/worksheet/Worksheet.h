@@ -81,6 +81,8 @@ private:
     void avanzar();
     void cambioDeFila();
     void empezarEdicion(char32_t codigo);
+    /// While `txtt` is visible its text, as it stands, becomes the current cell's and it is hidden.
+    void guardarEdicion();
     /// Without storing what was typed.
     void ocultarTxtt();
     bool teclaEnTxtt(Key key);
