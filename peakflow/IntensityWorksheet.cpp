@@ -3,7 +3,9 @@
 #include "peakflow/tiempoConcentracion.h"
 #include "regression/gaussJordan.h"
 #include "shell/text/Text.h"
+#include "shell/worksheet/PastedBlock.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace caudalera {
@@ -14,12 +16,10 @@ constexpr const char* tituloError = "Error";
 constexpr const char* mascaraEcuacion = "#####0.##00";
 constexpr float periodoMaximo = 200;
 
-/// Digits, one decimal point and backspace.
-bool esTeclaDeNumero(char32_t tecla, std::string_view texto) {
-    constexpr char32_t retroceso = 8;
-    if (tecla == U'.')
-        return texto.find('.') == std::string_view::npos;
-    return tecla == retroceso || (tecla >= U'0' && tecla <= U'9');
+/// Digits with at most one decimal point, no digit at all included: it is being typed.
+bool esNumeroSinSigno(std::string_view texto) {
+    return texto.find_first_not_of("0123456789.") == std::string_view::npos &&
+           std::count(texto.begin(), texto.end(), '.') <= 1;
 }
 
 } // namespace
@@ -55,8 +55,10 @@ IntensityWorksheet::IntensityWorksheet(Program& program, std::string name, std::
 }
 
 void IntensityWorksheet::soloNumeros(const std::vector<TextBox*>& campos) {
-    for (TextBox* campo : campos)
-        campo->keyFilter = esTeclaDeNumero;
+    for (TextBox* campo : campos) {
+        campo->acceptable = esNumeroSinSigno;
+        campo->asPasted = numberAsPasted;
+    }
 }
 
 Layout IntensityWorksheet::disposicionI() {

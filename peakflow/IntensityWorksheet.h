@@ -69,7 +69,7 @@ protected:
     /// The records, if they are the source, and the sentence that tells the intensity.
     void escribirReporteI(ReportWriter& reporte) const;
 
-    /// Lets typing bring in digits, one decimal point and backspace alone.
+    /// Lets the user bring in digits and one decimal point alone.
     static void soloNumeros(const std::vector<TextBox*>& campos);
 
     void antesDeAccesar() override;

@@ -1,44 +1,12 @@
 #pragma once
 
 #include "desktop/controls/ControlView.h"
+#include "desktop/controls/FieldEdit.h"
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 
 namespace caudalera {
-
-/// A text field of the model as a line edit. What the user types reaches the model as the change
-/// of its text; ENTER, Escape, Up and Down as keys. Typing passes the field's filter, pasting does
-/// not.
-class FieldEdit : public QLineEdit {
-    Q_OBJECT
-
-public:
-    FieldEdit(Session& session, TextBox& box, QWidget* parent);
-
-    void sync();
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
-
-    Session& session() const { return session_; }
-    TextBox& box() const { return box_; }
-
-private:
-    bool accepts(const QString& typed) const;
-    /// Caret and selection are part of the control: what the user does to them goes there.
-    void tellSelection();
-    void showSelection();
-    QSize sizeFor(int characters) const;
-
-    Session& session_;
-    TextBox& box_;
-};
 
 class TextView : public ControlView {
 public:

@@ -1,9 +1,5 @@
 #include "desktop/grid/GridEditor.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QKeyEvent>
-
 namespace caudalera {
 
 namespace {
@@ -16,7 +12,7 @@ bool holdsSeveralCells(const QString& text) {
 } // namespace
 
 GridEditor::GridEditor(Session& session, TextBox& box, QWidget* viewport,
-                       std::function<void()> pasteBlock)
+                       std::function<void(const QString&)> pasteBlock)
     : FieldEdit(session, box, viewport), pasteBlock_(std::move(pasteBlock)) {
     setFrame(false);
     hide();
@@ -34,13 +30,12 @@ void GridEditor::floatOver(const QRect& cell, Qt::Alignment where) {
     }
 }
 
-void GridEditor::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Paste) &&
-        holdsSeveralCells(QGuiApplication::clipboard()->text())) {
-        pasteBlock_();
-        return;
+void GridEditor::pasteText(const QString& text) {
+    if (holdsSeveralCells(text)) {
+        pasteBlock_(text);
+    } else {
+        FieldEdit::pasteText(text);
     }
-    FieldEdit::keyPressEvent(event);
 }
 
 } // namespace caudalera

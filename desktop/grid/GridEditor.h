@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/controls/FieldViews.h"
+#include "desktop/controls/FieldEdit.h"
 
 #include <functional>
 
@@ -11,17 +11,18 @@ class GridEditor : public FieldEdit {
     Q_OBJECT
 
 public:
-    /// `pasteBlock` enters a clipboard text of several cells into the grid.
-    GridEditor(Session& session, TextBox& box, QWidget* viewport, std::function<void()> pasteBlock);
+    /// `pasteBlock` enters a text of several cells into the grid.
+    GridEditor(Session& session, TextBox& box, QWidget* viewport,
+               std::function<void(const QString&)> pasteBlock);
 
     /// Shows it over a cell.
     void floatOver(const QRect& cell, Qt::Alignment alignment);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void pasteText(const QString& text) override;
 
 private:
-    std::function<void()> pasteBlock_;
+    std::function<void(const QString&)> pasteBlock_;
 };
 
 } // namespace caudalera

@@ -26,7 +26,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (event->matches(QKeySequence::Paste)) {
-        paste();
+        paste(toQString(session_.platform().clipboardText()));
         return;
     }
     if (event->matches(QKeySequence::SelectAll)) {
@@ -172,10 +172,10 @@ void GridView::copy() const {
     session_.platform().setClipboardText(selectedText().toStdString());
 }
 
-void GridView::paste() {
+void GridView::paste(const QString& text) {
     if (!editor_)
         return;
-    const PastedBlock block(session_.platform().clipboardText());
+    const PastedBlock block(text.toStdString());
     session_.act([&] {
         Program& program = session_.program();
         program.focus(grid_);

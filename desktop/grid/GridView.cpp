@@ -60,7 +60,8 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
             .arg(style::halfUnit()));
 
     if (grid.editor)
-        editor_ = new GridEditor(session, *grid.editor, viewport(), [this] { paste(); });
+        editor_ = new GridEditor(session, *grid.editor, viewport(),
+                                 [this](const QString& text) { paste(text); });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GridView::userScrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { syncEditor(); });
 }

@@ -28,7 +28,8 @@ public:
     /// one that holds something are left out.
     QString selectedText() const;
     void copy() const;
-    void paste();
+    /// Enters a block of numbers from the current cell on, or tells why not.
+    void paste(const QString& text);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -1,11 +1,8 @@
 #include "shell/window/Control.h"
 
 #include "shell/numbers/RuntimeFailure.h"
-#include "shell/text/Text.h"
 #include "shell/text/Utf8.h"
 #include "shell/window/Window.h"
-
-#include <algorithm>
 
 namespace caudalera {
 
@@ -56,42 +53,52 @@ TextBox::TextBox(Window& window, const std::string& name, const std::string& lab
       unit_(attachedLabel(window, name + ".unidad", unitText)) {}
 
 void TextBox::setText(std::string text) {
-    if (text == text_)
+    if (text == content_.text())
         return;
     enterText(std::move(text));
 }
 
 void TextBox::enterText(std::string text) {
-    text_ = std::move(text);
-    selStart = longitud(text_);
-    selLength = 0;
+    content_ = EditedText(std::move(text));
     if (onChange)
         onChange();
 }
 
-void TextBox::type(char32_t character) {
-    if (keyFilter && !keyFilter(character, text_))
+bool TextBox::accepts(const TextEdit& edit) const {
+    // What stands there can always be taken out.
+    if (!acceptable || edit.inserted.empty())
+        return true;
+    EditedText edited = content_;
+    edited.apply(edit);
+    if (acceptable(edited.text()))
+        return true;
+    // A text that came in past the filter can be edited, too: then what is added is judged alone.
+    return !acceptable(content_.text()) && acceptable(edit.inserted);
+}
+
+void TextBox::change(const TextEdit& edit) {
+    if (!accepts(edit))
         return;
-    const std::size_t length = longitud(text_);
-    std::size_t start = std::min(selStart, length);
-    std::size_t count = std::min(selLength, length - start);
-    const bool backspace = character == 8;
-    if (backspace && count == 0) {
-        if (start == 0)
-            return;
-        --start;
-        count = 1;
-    }
-    if (!backspace && character < 32)
-        return;
-    std::string text = text_;
-    const std::size_t from = utf8::offset(text, start);
-    std::string typed;
-    if (!backspace)
-        utf8::append(typed, character);
-    text.replace(from, utf8::offset(text, start + count) - from, typed);
-    enterText(std::move(text));
-    selStart = backspace ? start : start + 1;
+    content_.apply(edit);
+    if (onChange)
+        onChange();
+}
+
+void TextBox::type(Key key) {
+    if (const auto edit = editByKey(content_, key))
+        change(*edit);
+}
+
+void TextBox::insert(std::string text) {
+    change({selStart(), selLength(), std::move(text)});
+}
+
+void TextBox::paste(std::string_view text) {
+    insert(asPasted ? asPasted(text) : std::string(text));
+}
+
+void TextBox::edit(std::string_view text) {
+    change(editTowards(content_, text));
 }
 
 List::List(Window& window, const std::string& name, std::vector<std::string> items,
@@ -107,15 +114,18 @@ void List::choose(std::string text) {
 }
 
 void List::type(char32_t character) {
-    std::string text = text_;
     if (character == 8) {
-        text.resize(utf8::offset(text, longitud(text) - std::min<std::size_t>(longitud(text), 1)));
+        while (!text_.empty() && utf8::isContinuation(text_.back()))
+            text_.pop_back();
+        if (!text_.empty())
+            text_.pop_back();
     } else if (character >= 32) {
-        utf8::append(text, character);
+        utf8::append(text_, character);
     } else {
         return;
     }
-    choose(std::move(text));
+    if (onChange)
+        onChange();
 }
 
 } // namespace caudalera

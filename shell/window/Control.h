@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/window/EditedText.h"
 #include "shell/window/Key.h"
 
 #include <functional>
@@ -173,23 +174,35 @@ public:
     TextBox(Window& window, const std::string& name, const std::string& labelText = {},
             const std::string& unitText = {});
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const { return content_.text(); }
     /// Replaces the text, the caret behind it; the change event runs if it differs.
     void setText(std::string text);
-    /// The same, with the change event in any case: what typing and pasting do.
+    /// The same, with the change event in any case and whatever the filter says.
     void enterText(std::string text);
 
     Label* label() const { return label_.get(); }
     Label* unit() const { return unit_.get(); }
 
     /// Selection in characters.
-    std::size_t selStart = 0;
-    std::size_t selLength = 0;
-    /// Types one character at the selection; backspace (8) deletes.
-    void type(char32_t character);
+    std::size_t selStart() const { return content_.selStart(); }
+    std::size_t selLength() const { return content_.selLength(); }
+    void select(std::size_t start, std::size_t length) { content_.select(start, length); }
 
-    /// Which characters typing accepts, given the text as it stands; all, if unset.
-    std::function<bool(char32_t, std::string_view)> keyFilter;
+    // What the user's hands do to the text. Each is one change, which the filter lets in whole or
+    // not at all and which runs the change event.
+    /// A key at the selection.
+    void type(Key key);
+    /// Puts a text in place of the selection, as an input method does.
+    void insert(std::string text);
+    /// The same with a text from elsewhere, as this field reads such.
+    void paste(std::string_view text);
+    /// The text becomes another one by editing of whatever kind (cutting, undoing).
+    void edit(std::string_view text);
+
+    /// The filter: which texts the user's editing may lead to; all, if unset.
+    std::function<bool(std::string_view)> acceptable;
+    /// What a text that is pasted comes in as; as it stands, if unset.
+    std::function<std::string(std::string_view)> asPasted;
     /// A key before anything else; true if it is consumed.
     std::function<bool(Key)> onKey;
     std::function<void()> onChange;
@@ -200,8 +213,11 @@ public:
     int width = 10;
 
 private:
+    bool accepts(const TextEdit& edit) const;
+    void change(const TextEdit& edit);
+
     std::unique_ptr<Label> label_;
-    std::string text_;
+    EditedText content_;
     std::unique_ptr<Label> unit_;
 };
 

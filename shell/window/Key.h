@@ -4,7 +4,7 @@ namespace caudalera {
 
 /// One key as a person presses it.
 struct Key {
-    enum class Kind { character, enter, escape, up, down };
+    enum class Kind { character, enter, escape, up, down, forwardDelete };
     Kind kind = Kind::character;
     char32_t character = 0;
 

@@ -74,13 +74,33 @@ void Program::click(Control& control) {
     });
 }
 
-void Program::changeText(TextBox& box, const std::string& text) {
+void Program::actOnText(TextBox& box, const std::function<void()>& handler) {
     if (!box.enabled)
         return;
     act([&] {
         box.window().setFocus(box);
-        box.enterText(text);
+        handler();
     });
+}
+
+void Program::changeText(TextBox& box, const std::string& text) {
+    actOnText(box, [&] { box.enterText(text); });
+}
+
+void Program::insertText(TextBox& box, const std::string& text) {
+    actOnText(box, [&] { box.insert(text); });
+}
+
+void Program::pasteText(TextBox& box, std::string_view text) {
+    actOnText(box, [&] { box.paste(text); });
+}
+
+void Program::editText(TextBox& box, std::string_view text) {
+    actOnText(box, [&] { box.edit(text); });
+}
+
+void Program::select(TextBox& box, std::size_t start, std::size_t length) {
+    act([&] { box.select(start, length); });
 }
 
 void Program::choose(List& list, const std::string& text) {
@@ -137,10 +157,11 @@ void Program::keyOnText(TextBox& box, Key key) {
     box.window().setFocus(box);
     if (box.onKey && box.onKey(key))
         return;
-    if (key.kind == Key::Kind::character) {
-        box.type(key.character);
-    } else if (key.kind == Key::Kind::enter && box.onEnter) {
-        box.onEnter();
+    if (key.kind == Key::Kind::enter) {
+        if (box.onEnter)
+            box.onEnter();
+    } else {
+        box.type(key);
     }
 }
 
@@ -157,6 +178,9 @@ void Program::keyOnGrid(MSFlexGrid& grid, Key key) {
     case Key::Kind::enter:
         if (grid.onEnter)
             grid.onEnter();
+        break;
+    case Key::Kind::forwardDelete:
+        // No character, so no key press either.
         break;
     default:
         if (grid.onKeyPress)

@@ -52,8 +52,16 @@ public:
     // What a person does. Events on a control give it the focus first. An event on a control that
     // is not enabled does nothing.
     void click(Control& control);
-    /// Replaces a field's text as by pasting.
+    /// Replaces a field's whole text, whatever its filter says.
     void changeText(TextBox& box, const std::string& text);
+    /// Puts a text in place of a field's selection, if its filter accepts the result.
+    void insertText(TextBox& box, const std::string& text);
+    /// The same with a text from elsewhere, as the field reads such.
+    void pasteText(TextBox& box, std::string_view text);
+    /// The text that a field's own editing leads to, if its filter accepts it.
+    void editText(TextBox& box, std::string_view text);
+    /// Moves the caret, in characters; the focus stays where it is.
+    void select(TextBox& box, std::size_t start, std::size_t length);
     void key(Control& control, Key key);
     void choose(List& list, const std::string& text);
     void chooseTab(Tabs& tabs, int index);
@@ -77,6 +85,7 @@ public:
     void end();
 
 private:
+    void actOnText(TextBox& box, const std::function<void()>& handler);
     static void keyOnGrid(MSFlexGrid& grid, Key key);
     static void keyOnText(TextBox& box, Key key);
     const WindowEntry* entryOf(std::string_view name) const;

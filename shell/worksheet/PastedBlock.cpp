@@ -174,4 +174,11 @@ void PastedBlock::enter(Program& program, MSFlexGrid& grid) const {
     }
 }
 
+std::string numberAsPasted(std::string_view text) {
+    const PastedBlock block(text);
+    const bool isNumber =
+        block.refusal().empty() && block.rows().size() == 1 && block.columns() == 1;
+    return isNumber ? block.rows().front().front() : std::string(text);
+}
+
 } // namespace caudalera

@@ -34,4 +34,8 @@ private:
     std::string refusal_;
 };
 
+/// A text as it comes into an edit box: a single number as a block of one cell gives it, any other
+/// text as it stands.
+std::string numberAsPasted(std::string_view text);
+
 } // namespace caudalera

@@ -2,6 +2,7 @@
 
 #include "shell/text/Text.h"
 #include "shell/window/Program.h"
+#include "shell/worksheet/PastedBlock.h"
 
 namespace caudalera {
 
@@ -37,6 +38,7 @@ Worksheet::Worksheet(Program& program, std::string name, std::string text, std::
     grdt.onRowColChange = [this] { cambioDeFila(); };
     grdt.onRightClick = [this] { botonDerecho(); };
     txtt.onKey = [this](Key key) { return teclaEnTxtt(key); };
+    txtt.asPasted = numberAsPasted;
     txtt.onGotFocus = [this] {
         StatusBar1.panels[0] =
             "Para introducir o modificar datos, digitarlos y luego presionar ENTER";
@@ -117,11 +119,10 @@ void Worksheet::empezarEdicion(char32_t codigo) {
     txtt.visible = true;
     if (codigo <= 32) {
         txtt.enterText(formatear(valorCelda(grdt.Row(), grdt.Col()), mascaraCelda));
-        txtt.selStart = 0;
-        txtt.selLength = longitud(txtt.text());
+        txtt.select(0, longitud(txtt.text()));
     } else {
         txtt.enterText({});
-        txtt.type(codigo);
+        txtt.type({Key::Kind::character, codigo});
     }
     setFocus(txtt);
 }
@@ -158,6 +159,7 @@ bool Worksheet::teclaEnTxtt(Key key) {
         avanzar();
         return true;
     case Key::Kind::character:
+    case Key::Kind::forwardDelete:
         return false;
     }
     return false;

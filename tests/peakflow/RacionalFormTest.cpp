@@ -176,6 +176,29 @@ TEST_F(RacionalTest, NumberFieldsTakeDigitsOnePointAndBackspace) {
     EXPECT_EQ(text("txtt"), "-a");
 }
 
+TEST_F(RacionalTest, NumberFieldsJudgeTheWholeTextThatWouldResult) {
+    for (const char* name : {"txtcq", "txtaq", "txtiq", "txtac", "txts", "txtLi", "txtHi", "txtTi",
+                             "txtDuracionAdi"}) {
+        SCOPED_TRACE(name);
+        auto& box = control<TextBox>(name);
+        for (const char* refused : {"1.2.3", "-5", "1e3", "abc", "12 m", "1,5,2"})
+            program.pasteText(box, refused);
+        program.insertText(box, "0,45");
+        program.insertText(box, "1.2.3");
+        EXPECT_EQ(box.text(), "");
+        program.pasteText(box, "0,45");
+        EXPECT_EQ(box.text(), "0.45");
+        program.pasteText(box, "1.5");
+        EXPECT_EQ(box.text(), "0.45") << "two points";
+        program.select(box, 0, 4);
+        program.pasteText(box, "1.234,5");
+        EXPECT_EQ(box.text(), "1234.5");
+        program.select(box, 3, 3);
+        type(name, ".");
+        EXPECT_EQ(box.text(), "123.") << "the point that stood there is replaced";
+    }
+}
+
 TEST_F(RacionalTest, ClearingTheFlowTabLeavesTheOthers) {
     for (const char* name : {"txtcq", "txtaq", "txtiq", "txtac", "txts", "txtLi", "txtHi", "txtTi"})
         enter(name, "1");

@@ -2,6 +2,7 @@
 #include "tests/support/FailureNumber.h"
 #include "tests/support/WindowTest.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -120,25 +121,23 @@ TEST_F(ControlTest, AStartValueRunsNoEvent) {
 TEST_F(ControlTest, TypingReplacesTheSelectionByCharacters) {
     typeText(program, box, "año");
     EXPECT_EQ(box.text(), "año");
-    EXPECT_EQ(box.selStart, 3U) << "the caret counts characters, not bytes";
-    box.selStart = 1;
-    box.selLength = 1;
+    EXPECT_EQ(box.selStart(), 3U) << "the caret counts characters, not bytes";
+    program.select(box, 1, 1);
     typeText(program, box, "€1");
     EXPECT_EQ(box.text(), "a€1o");
-    EXPECT_EQ(box.selStart, 3U);
-    EXPECT_EQ(box.selLength, 0U);
+    EXPECT_EQ(box.selStart(), 3U);
+    EXPECT_EQ(box.selLength(), 0U);
 }
 
 TEST_F(ControlTest, BackspaceDeletesTheSelectionOrTheCharacterBefore) {
     program.changeText(box, "añ€😀");
     program.key(box, {Key::Kind::character, 8});
     EXPECT_EQ(box.text(), "añ€");
-    box.selStart = 2;
+    program.select(box, 2, 0);
     program.key(box, {Key::Kind::character, 8});
     EXPECT_EQ(box.text(), "a€");
-    EXPECT_EQ(box.selStart, 1U);
-    box.selStart = 0;
-    box.selLength = 2;
+    EXPECT_EQ(box.selStart(), 1U);
+    program.select(box, 0, 2);
     program.key(box, {Key::Kind::character, 8});
     EXPECT_EQ(box.text(), "");
     events.clear();
@@ -153,15 +152,104 @@ TEST_F(ControlTest, ControlCharactersTypeNothing) {
     EXPECT_EQ(list.text(), "uno");
 }
 
-TEST_F(ControlTest, AFilterHoldsForKeysButNotForPasting) {
-    box.keyFilter = [](char32_t character, std::string_view text) {
-        return (character >= U'0' && character <= U'9') ||
-               (character == U'.' && text.find('.') == text.npos);
-    };
-    typeText(program, box, "1a.2.3");
-    EXPECT_EQ(box.text(), "1.23");
-    program.changeText(box, "abc");
-    EXPECT_EQ(box.text(), "abc");
+TEST_F(ControlTest, DeleteTakesOutTheSelectionOrTheCharacterBehind) {
+    program.changeText(box, "añ€😀");
+    events.clear();
+    program.key(box, {Key::Kind::forwardDelete});
+    EXPECT_EQ(taken(), Events{}) << "nothing stands behind the caret";
+    program.select(box, 1, 0);
+    program.key(box, {Key::Kind::forwardDelete});
+    EXPECT_EQ(box.text(), "a€😀");
+    EXPECT_EQ(box.selStart(), 1U);
+    program.select(box, 0, 2);
+    program.key(box, {Key::Kind::forwardDelete});
+    EXPECT_EQ(box.text(), "😀");
+    EXPECT_EQ(taken(), (Events{"change a€😀", "change 😀"}));
+}
+
+TEST_F(ControlTest, TheCaretIsMovedWithoutAnEventAndNeverPastTheText) {
+    program.changeText(box, "ñandú");
+    events.clear();
+    program.select(box, 2, 9);
+    EXPECT_EQ(box.selStart(), 2U);
+    EXPECT_EQ(box.selLength(), 3U);
+    program.select(box, 9, 9);
+    EXPECT_EQ(box.selStart(), 5U);
+    EXPECT_EQ(box.selLength(), 0U);
+    EXPECT_EQ(taken(), Events{});
+}
+
+/// At most one 'x', and no blank.
+bool oneX(std::string_view text) {
+    return text.find(' ') == text.npos && std::count(text.begin(), text.end(), 'x') <= 1;
+}
+
+TEST_F(ControlTest, AFilterJudgesTheTextThatEditingWouldLeadTo) {
+    box.acceptable = oneX;
+    typeText(program, box, "a xbx");
+    EXPECT_EQ(box.text(), "axb");
+    program.select(box, 1, 1);
+    events.clear();
+    typeText(program, box, "x");
+    EXPECT_EQ(taken(), Events{"change axb"}) << "the one it replaces is gone";
+    program.insertText(box, "cx");
+    EXPECT_EQ(box.text(), "axb") << "not the half of it either";
+    program.pasteText(box, "cx");
+    EXPECT_EQ(box.text(), "axb");
+    program.editText(box, "axbx");
+    EXPECT_EQ(box.text(), "axb");
+    EXPECT_EQ(box.selStart(), 2U) << "a refused change leaves the caret, too";
+    EXPECT_EQ(taken(), Events{});
+    program.pasteText(box, "cd");
+    EXPECT_EQ(box.text(), "axcdb");
+    EXPECT_EQ(box.selStart(), 4U);
+    program.editText(box, "xdb");
+    EXPECT_EQ(taken(), (Events{"change axcdb", "change xdb"}));
+}
+
+TEST_F(ControlTest, AFilterDoesNotHoldForAWholeTextAndWhatItWouldRefuseCanBeEdited) {
+    box.acceptable = oneX;
+    program.changeText(box, "a x x");
+    EXPECT_EQ(box.text(), "a x x");
+    typeText(program, box, "b c");
+    EXPECT_EQ(box.text(), "a x xbc");
+    program.key(box, {Key::Kind::character, 8});
+    program.select(box, 1, 0);
+    program.key(box, {Key::Kind::forwardDelete});
+    program.editText(box, "ax");
+    EXPECT_EQ(box.text(), "ax");
+}
+
+TEST_F(ControlTest, APastedTextComesInAsTheFieldReadsSuch) {
+    box.asPasted = [](std::string_view text) { return "<" + std::string(text) + ">"; };
+    program.changeText(box, "12");
+    program.select(box, 1, 0);
+    program.pasteText(box, "ñ");
+    EXPECT_EQ(box.text(), "1<ñ>2");
+    EXPECT_EQ(box.selStart(), 4U);
+    program.insertText(box, "ñ");
+    EXPECT_EQ(box.text(), "1<ñ>ñ2");
+    program.changeText(box, "3");
+    EXPECT_EQ(box.text(), "3");
+}
+
+TEST_F(ControlTest, ADisabledFieldIsNotEdited) {
+    box.enabled = false;
+    program.insertText(box, "1");
+    program.pasteText(box, "1");
+    program.editText(box, "1");
+    EXPECT_EQ(box.text(), "");
+    EXPECT_EQ(taken(), Events{});
+}
+
+TEST_F(ControlTest, ALongTextIsTypedAtOnce) {
+    std::string expected;
+    for (int i = 0; i < 20000; ++i) {
+        typeText(program, plain, "ñ");
+        expected += "ñ";
+    }
+    EXPECT_EQ(plain.text(), expected);
+    EXPECT_EQ(plain.selStart(), 20000U);
 }
 
 TEST_F(ControlTest, AConsumedKeyGoesNoFurther) {

@@ -41,8 +41,8 @@ TEST_F(WorksheetEditingTest, ACharacterOpensTheBoxWithItAndTheCaretBehind) {
     press(U'7');
     EXPECT_TRUE(editing());
     EXPECT_EQ(text("txtt"), "7");
-    EXPECT_EQ(hoja.txtt.selStart, 1U);
-    EXPECT_EQ(hoja.txtt.selLength, 0U);
+    EXPECT_EQ(hoja.txtt.selStart(), 1U);
+    EXPECT_EQ(hoja.txtt.selLength(), 0U);
     EXPECT_EQ(focus(), "txtt");
     EXPECT_EQ(cellText("grdt", 1, 1), "");
     type("grdt", ".5");
@@ -57,8 +57,8 @@ TEST_F(WorksheetEditingTest, ACodeUpTo32OpensTheBoxWithTheCellSelected) {
         press(code);
         EXPECT_TRUE(editing());
         EXPECT_EQ(text("txtt"), "12.5");
-        EXPECT_EQ(hoja.txtt.selStart, 0U);
-        EXPECT_EQ(hoja.txtt.selLength, 4U);
+        EXPECT_EQ(hoja.txtt.selStart(), 0U);
+        EXPECT_EQ(hoja.txtt.selLength(), 4U);
         key("grdt", Key::Kind::escape);
         EXPECT_FALSE(editing());
     }
@@ -103,6 +103,51 @@ TEST_F(WorksheetEditingTest, EnterStoresTheNumericReading) {
     EXPECT_EQ(data(), "0.0/12.0/1.0/1234.0/0.5/-7.0/100.0/1.12345679/5.0");
     EXPECT_EQ(focus(), "grdt");
     EXPECT_FALSE(editing());
+}
+
+TEST_F(WorksheetEditingTest, AKeyEditsTheOpenBoxWhereItsCaretIs) {
+    auto& hoja = sheet("frmParamEsta");
+    type("grdt", "15");
+    program.select(hoja.txtt, 1, 0);
+    type("grdt", "2");
+    EXPECT_EQ(text("txtt"), "125");
+    program.select(hoja.txtt, 0, 0);
+    key("grdt", Key::Kind::forwardDelete);
+    EXPECT_EQ(text("txtt"), "25");
+    press(8);
+    EXPECT_EQ(text("txtt"), "25") << "nothing stands before the caret";
+    key("grdt", Key::Kind::enter);
+    EXPECT_EQ(data(), "25.0");
+}
+
+TEST_F(WorksheetEditingTest, DeleteOnTheGridOpensNoBox) {
+    sheet();
+    key("grdt", Key::Kind::forwardDelete);
+    EXPECT_FALSE(editing());
+}
+
+TEST_F(WorksheetEditingTest, ANumberPastedIntoTheOpenBoxIsReadAsAPastedBlockIs) {
+    auto& hoja = sheet("frmParamEsta");
+    const std::vector<std::pair<std::string, std::string>> pasted = {
+        {"1,5", "1.5"},     {"1.234,5", "1234.5"}, {"-0,25\r\n", "-0.25"},
+        {"1.5", "1.5"},     {" 1,5e3 ", "1.5e3"},  {"12abc", "12abc"},
+        {"1,5 m", "1,5 m"}, {"1.5,2", "1.5,2"},    {"", ""},
+    };
+    for (const auto& [clipboard, shown] : pasted) {
+        press(32);
+        program.pasteText(hoja.txtt, clipboard);
+        EXPECT_EQ(text("txtt"), shown) << clipboard;
+        key("grdt", Key::Kind::escape);
+    }
+    type("grdt", "2");
+    program.pasteText(hoja.txtt, "1,5");
+    EXPECT_EQ(text("txtt"), "21.5");
+    key("grdt", Key::Kind::enter);
+    type("grdt", "1,5");
+    key("grdt", Key::Kind::enter);
+    program.changeText(hoja.txtt, "1,5");
+    EXPECT_EQ(text("txtt"), "1,5") << "a text that is set stays as it is";
+    EXPECT_EQ(data(), "21.5/1.0") << "and typing a comma still ends the number";
 }
 
 TEST_F(WorksheetEditingTest, DownStoresTheTextAsTypedAndMovesDown) {
