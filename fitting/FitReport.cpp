@@ -32,7 +32,7 @@ void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {
     constexpr long guionesAjuste = 130;
     constexpr long guionesMensaje = 55;
     std::string encabezado = "        m  \t        X  \t           P(X)        ";
-    for (const auto titulo : texts_.titulosReporte)
+    for (const auto titulo : textos_.titulosReporte)
         encabezado.append(titulo).append("   ");
     reporte.abrirTabla("Cálculos del ajuste Smirnov Kolmogorov:", {encabezado}, guionesAjuste);
     for (long fila = 1; fila <= program().variables.contadorLineas; ++fila) {
@@ -48,12 +48,12 @@ void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {
 
 void FitWorksheet::reporteDeParametros(ReportWriter& reporte) const {
     const auto lineas = [&](const std::vector<Parametro>& parametros) {
-        for (const Parametro& each : parametros)
-            reporte << each.linea << each.campo->text() << LF;
+        for (const Parametro& parametro : parametros)
+            reporte << parametro.linea << parametro.campo->text() << LF;
     };
-    reporte << texts_.tituloParametros << LF;
-    reporte.regla(texts_.guionesParametros);
-    if (!texts_.momentosLineales) {
+    reporte << textos_.tituloParametros << LF;
+    reporte.regla(textos_.guionesParametros);
+    if (!textos_.momentosLineales) {
         lineas(ordinarios);
         return;
     }

@@ -16,11 +16,11 @@ constexpr std::string_view mascaraCaudal = "#####0.#0";
 } // namespace
 
 FitWorksheet::FitWorksheet(Program& program, std::string name, std::string text,
-                           const FitTexts& texts)
+                           const FitTexts& textos)
     : Worksheet(program, std::move(name), std::move(text), "N°", layoutSerieX()),
-      fraParametros(*this, "fraParametros", std::string(texts.marcoParametros)), texts_(texts) {
+      fraParametros(*this, "fraParametros", std::string(textos.marcoParametros)), textos_(textos) {
     columnas = {&serieDatos};
-    if (texts.momentosLineales)
+    if (textos.momentosLineales)
         tipoDeAjuste.emplace(*this);
     opt005.preset(true);
     grddis.columnWidths = {700, 1000, 1000, 1200, 1300, 1000};
@@ -41,9 +41,9 @@ void FitWorksheet::disponer(Layout camposDeParametros) {
     registrarResultados({&txtxp});
     for (TextBox* campo : {&txtxq, &txtxt, &txtxp})
         campo->width = 12;
-    for (const Parametro* each : parametros()) {
-        registrarResultados({each->campo});
-        each->campo->width = 12;
+    for (const Parametro* parametro : parametros()) {
+        registrarResultados({parametro->campo});
+        parametro->campo->width = 12;
     }
 
     std::vector<Layout> elecciones;
@@ -69,18 +69,18 @@ void FitWorksheet::disponer(Layout camposDeParametros) {
 }
 
 std::vector<const FitWorksheet::Parametro*> FitWorksheet::parametros() const {
-    std::vector<const Parametro*> all;
-    for (const auto* kind : {&ordinarios, &lineales}) {
-        for (const Parametro& each : *kind)
-            all.push_back(&each);
+    std::vector<const Parametro*> todos;
+    for (const auto* tipo : {&ordinarios, &lineales}) {
+        for (const Parametro& parametro : *tipo)
+            todos.push_back(&parametro);
     }
-    return all;
+    return todos;
 }
 
 void FitWorksheet::reiniciarResultados() {
     grddis.reset(500, 6, 1, 0);
-    grddis.setHeaders({"m", "X", "P(X)", std::string(texts_.encabezados[0]),
-                       std::string(texts_.encabezados[1]), "Delta"});
+    grddis.setHeaders({"m", "X", "P(X)", std::string(textos_.encabezados[0]),
+                       std::string(textos_.encabezados[1]), "Delta"});
 }
 
 void FitWorksheet::borrarCampos() {
@@ -134,7 +134,7 @@ void FitWorksheet::mensajeDeError(std::string_view texto) const {
 void FitWorksheet::calcular() {
     conTrampa([this] { ajustar(); },
               [this](const RuntimeFailure&) {
-                  mensaje(std::string(texts_.falloCalculo), "Mensaje de error", Icon::information);
+                  mensaje(std::string(textos_.falloCalculo), "Mensaje de error", Icon::information);
               });
 }
 
@@ -172,8 +172,8 @@ void FitWorksheet::calcularAcumuladas() {
 }
 
 void FitWorksheet::escribirParametros() {
-    for (const Parametro* each : parametros())
-        each->campo->setText(formatear(*each->valor, mascaraValor));
+    for (const Parametro* parametro : parametros())
+        parametro->campo->setText(formatear(*parametro->valor, mascaraValor));
 }
 
 void FitWorksheet::probarAjuste() {
@@ -215,12 +215,12 @@ void FitWorksheet::escribirVeredicto(Real teorico) {
         const Real tabular = deltaTabular(nivel.coeficiente, conteoDatos);
         const bool ajusta = seAjusta(teorico, tabular);
         lblmensaje.caption =
-            "Como el delta teórico " + formatear(teorico, texts_.mascaraTeorico) +
+            "Como el delta teórico " + formatear(teorico, textos_.mascaraTeorico) +
             (ajusta ? ", es menor que el delta tabular " : ", es mayor que el delta tabular ") +
-            formatear(tabular, texts_.mascaraTabular) +
+            formatear(tabular, textos_.mascaraTabular) +
             (ajusta ? ". Los datos se ajustan a la distribución "
                     : ". Los datos no se ajustan a la distribución ") +
-            std::string(texts_.distribucion) + ", con un nivel de significación del" + nivel.texto;
+            std::string(textos_.distribucion) + ", con un nivel de significación del" + nivel.texto;
     }
 }
 
@@ -228,18 +228,18 @@ void FitWorksheet::graficar() {
     if (!hayCalculo(ajusteCalculado, {mensajeGraficoSinCalculo, "Mensaje de Error", Icon::error}) ||
         !hayPuntos(conteoDatos, graficoDeDosPuntos()))
         return;
-    Chart chart;
-    chart.x.emplace(1, 0.0);
+    Chart grafico;
+    grafico.x.emplace(1, 0.0);
     for (long m = 1; m <= conteoDatos; ++m)
-        chart.x->push_back(serieOrdenada[m].value());
+        grafico.x->push_back(serieOrdenada[m].value());
     for (const Curva& curva : curvas) {
         (*curva.serie)[0] = 0;
         Graph::Series series{std::string(curva.leyenda), {}};
         for (long m = 0; m <= conteoDatos; ++m)
             series.y.push_back((*curva.serie)[m].value());
-        chart.series.push_back(std::move(series));
+        grafico.series.push_back(std::move(series));
     }
-    dibujar(Graph1, std::move(chart));
+    dibujar(Graph1, std::move(grafico));
 }
 
 bool FitWorksheet::admitirMandato(std::string_view sinCalculo, const TextBox& campo,
@@ -265,7 +265,7 @@ void FitWorksheet::evaluarQ() {
 }
 
 void FitWorksheet::evaluarCaudal(Evaluacion cual) {
-    std::string_view sinCalculo = texts_.excedenciaSinCalculo;
+    std::string_view sinCalculo = textos_.excedenciaSinCalculo;
     if (cual == Evaluacion::T) {
         sinCalculo = "Efectuar cálculos antes de evaluar el período de retorno";
     } else if (cual == Evaluacion::Pmenor) {
@@ -279,11 +279,11 @@ void FitWorksheet::evaluarCaudal(Evaluacion cual) {
         return;
     const Real F = probabilidad(tipo, reducir(tipo, q));
     if (cual == Evaluacion::T) {
-        txtxt.setText(formatear(1 / (1 - F), texts_.mascaraPeriodo));
+        txtxt.setText(formatear(1 / (1 - F), textos_.mascaraPeriodo));
     } else if (cual == Evaluacion::Pmayor) {
-        txtxp.setText(formatear((1 - F) * 100, texts_.mascaraProbabilidad));
+        txtxp.setText(formatear((1 - F) * 100, textos_.mascaraProbabilidad));
     } else {
-        txtxp.setText(formatear(F * 100, texts_.mascaraProbabilidad));
+        txtxp.setText(formatear(F * 100, textos_.mascaraProbabilidad));
     }
 }
 

@@ -20,7 +20,7 @@ namespace caudalera {
 /// supplies its texts and masks, the checks of its series and its distribution.
 class FitWorksheet : public Worksheet {
 public:
-    FitWorksheet(Program& program, std::string name, std::string caption, const FitTexts& texts);
+    FitWorksheet(Program& program, std::string name, std::string caption, const FitTexts& textos);
 
     DataEntry ingreso{*this, "Ingreso de datos:"};
     Button bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
@@ -162,7 +162,7 @@ private:
     void reporteDelAjuste(ReportWriter& reporte) const;
     void reporteDeParametros(ReportWriter& reporte) const;
 
-    const FitTexts& texts_;
+    const FitTexts& textos_;
 };
 
 } // namespace caudalera

@@ -5,7 +5,7 @@ namespace caudalera {
 namespace {
 
 const FitTexts& textosNormal() {
-    static const FitTexts texts = {
+    static const FitTexts textos = {
         .distribucion = "Normal",
         .marcoParametros = "Parámetros distribución normal:",
         .tituloParametros = "Parámetros de la distribución normal:",
@@ -16,7 +16,7 @@ const FitTexts& textosNormal() {
         .mascaraProbabilidad = "###.#0",
         .excedenciaSinCalculo = "Efectuar cálculos antes de evaluar la probabilidad de excedencia",
     };
-    return texts;
+    return textos;
 }
 
 } // namespace

@@ -16,8 +16,8 @@ constexpr long reglaDeResultados = 90;
 } // namespace
 
 RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::string text,
-                                       RainfallFlowTexts texts)
-    : IntensityWorksheet(program, std::move(name), std::move(text)), texts_(std::move(texts)) {
+                                       RainfallFlowTexts textos)
+    : IntensityWorksheet(program, std::move(name), std::move(text)), textos_(std::move(textos)) {
     lblMensajeI.wraps = true;
     lblZonasNoUrbanas.heading = true;
     for (TextBox* resultado : {&txtqmax, &txtgrupo, &txtCponderado, &txtatotal})
@@ -71,7 +71,7 @@ void RainfallFlowWindow::elegirPestana() {
 
 void RainfallFlowWindow::reiniciarResultados() {
     grdC.reset(filasDeGrupos, 6, 1, 0);
-    grdC.setHeaders(texts_.groupHeaders);
+    grdC.setHeaders(textos_.encabezadosGrupos);
 }
 
 void RainfallFlowWindow::reiniciarGrupos() {
@@ -96,8 +96,8 @@ void RainfallFlowWindow::limpiar() {
         setFocus(txtac);
         return;
     }
-    for (const FlowField& campo : camposDeQ())
-        campo.box->setText({});
+    for (const CampoDeQ& dato : camposDeQ())
+        dato.campo->setText({});
     txtqmax.setText({});
     setFocus(txtcq);
 }
@@ -116,13 +116,13 @@ void RainfallFlowWindow::agregar() {
         return;
     ++grupos_;
     areaGrupo_[grupos_] = toSingle(Val(txtac.text()));
-    const Group grupo = describirGrupo();
+    const Grupo grupo = describirGrupo();
     CGrupo_[grupos_] = toSingle(grupo.C);
     grdC.setTextMatrix(grupos_, 0, textoPlano(long{grupos_}));
     grdC.setTextMatrix(grupos_, 1, Str(areaGrupo_[grupos_]));
-    grdC.setTextMatrix(grupos_, 2, grupo.cover);
-    grdC.setTextMatrix(grupos_, 3, grupo.texture);
-    grdC.setTextMatrix(grupos_, 4, grupo.slope);
+    grdC.setTextMatrix(grupos_, 2, grupo.cobertura);
+    grdC.setTextMatrix(grupos_, 3, grupo.textura);
+    grdC.setTextMatrix(grupos_, 4, grupo.pendiente);
     grdC.setTextMatrix(grupos_, 5, Str(CGrupo_[grupos_]));
     numerarGrupo();
     vaciarEntradaDeGrupo();
@@ -151,18 +151,18 @@ void RainfallFlowWindow::ponderar() {
 
 void RainfallFlowWindow::escribirGrupos(ReportWriter& reporte) const {
     constexpr std::string_view LF = ReportWriter::LF;
-    reporte << texts_.reportTitle << LF;
-    reporte.encabezado({texts_.reportHeading}, texts_.reportRule);
+    reporte << textos_.tituloReporte << LF;
+    reporte.encabezado({textos_.columnasReporte}, textos_.guionesReporte);
     for (long i = 1; i <= grupos_; ++i) {
         reporte << grdC.TextMatrix(i, 0) << blancos(5);
         for (long col = 1; col < grdC.Cols(); ++col) {
             const std::string& celda = grdC.TextMatrix(i, col);
-            const long ancho = texts_.reportWidths[static_cast<std::size_t>(col - 1)];
+            const long ancho = textos_.anchosReporte[static_cast<std::size_t>(col - 1)];
             reporte << celda << blancos(ancho - static_cast<long>(longitud(celda)));
         }
         reporte << LF;
     }
-    reporte.cerrarTabla(texts_.reportRule);
+    reporte.cerrarTabla(textos_.guionesReporte);
 }
 
 void RainfallFlowWindow::escribirReporte(ReportWriter& reporte) {

@@ -11,22 +11,22 @@ namespace caudalera {
 
 /// What the windows built on RainfallFlowWindow show differently.
 struct RainfallFlowTexts {
-    std::string image;
-    std::string labelC;
-    std::string labelArea;
-    std::string labelGroupArea;
-    std::vector<std::string> covers;
-    std::string startCover;
-    std::vector<std::string> textures;
-    std::string startTexture;
+    std::string dibujo;
+    std::string rotuloC;
+    std::string rotuloArea;
+    std::string rotuloAreaGrupo;
+    std::vector<std::string> coberturas;
+    std::string coberturaInicial;
+    std::vector<std::string> texturas;
+    std::string texturaInicial;
     /// Headers of `grdC`.
-    std::vector<std::string> groupHeaders;
+    std::vector<std::string> encabezadosGrupos;
     /// Title, length of the rules and heading row of the groups' table in the report, and the
     /// widths of the columns behind the first.
-    std::string reportTitle;
-    long reportRule = 0;
-    std::string reportHeading;
-    std::array<long, 5> reportWidths{};
+    std::string tituloReporte;
+    long guionesReporte = 0;
+    std::string columnasReporte;
+    std::array<long, 5> anchosReporte{};
 };
 
 /// A flow from a coefficient C, an area and a rainfall intensity I, in three tabs: the first
@@ -35,30 +35,31 @@ struct RainfallFlowTexts {
 class RainfallFlowWindow : public IntensityWorksheet {
 public:
     RainfallFlowWindow(Program& program, std::string name, std::string caption,
-                       RainfallFlowTexts texts);
+                       RainfallFlowTexts textos);
 
 private:
     // Before the controls, which are built from them.
-    RainfallFlowTexts texts_;
+    RainfallFlowTexts textos_;
 
 public:
     Tabs SSTab1{*this, "SSTab1", {"Cálculo de Q", "Cálculo de C", "Cálculo de I"}};
 
-    TextBox txtcq{*this, "txtcq", texts_.labelC};
-    TextBox txtaq{*this, "txtaq", texts_.labelArea, "has"};
+    TextBox txtcq{*this, "txtcq", textos_.rotuloC};
+    TextBox txtaq{*this, "txtaq", textos_.rotuloArea, "has"};
     TextBox txtiq{*this, "txtiq", "Intensidad máxima (I):", "mm/hr"};
     Label lblMensajeI{
         *this, "lblMensajeI",
         "para una duración igual al tiempo de concentración y un período de retorno T"};
     Frame fraResultadoQ{*this, "fraResultadoQ", "Resultado:"};
     TextBox txtqmax{*this, "txtqmax", "Q máximo:", "m3/s"};
-    Picture Picture1{*this, "Picture1", texts_.image};
+    Picture Picture1{*this, "Picture1", textos_.dibujo};
 
     TextBox txtgrupo{*this, "txtgrupo", "Grupo N°:"};
-    TextBox txtac{*this, "txtac", texts_.labelGroupArea, "has"};
+    TextBox txtac{*this, "txtac", textos_.rotuloAreaGrupo, "has"};
     Label lblZonasNoUrbanas{*this, "lblZonasNoUrbanas", "Zonas no urbanas:"};
-    List cboCobertura{*this, "cboCobertura", texts_.covers, texts_.startCover, "Cobertura:"};
-    List cboTextura{*this, "cboTextura", texts_.textures, texts_.startTexture, "Textura:"};
+    List cboCobertura{*this, "cboCobertura", textos_.coberturas, textos_.coberturaInicial,
+                      "Cobertura:"};
+    List cboTextura{*this, "cboTextura", textos_.texturas, textos_.texturaInicial, "Textura:"};
     TextBox txts{*this, "txts", "Pendiente", "%"};
     Button bAgregar{*this, "bAgregar", "&Agregar"};
     MSFlexGrid grdC{*this, "grdC"};
@@ -71,25 +72,25 @@ public:
 
 protected:
     /// A field that Q needs and how the message that asks for it names it.
-    struct FlowField {
-        TextBox* box;
-        std::string name;
+    struct CampoDeQ {
+        TextBox* campo;
+        std::string nombre;
     };
     /// What `grdC` shows of a group beside its number and area.
-    struct Group {
+    struct Grupo {
         Real C;
-        std::string cover;
-        std::string texture;
-        std::string slope;
+        std::string cobertura;
+        std::string textura;
+        std::string pendiente;
     };
 
     /// In the order they are tested.
-    virtual std::vector<FlowField> camposDeQ() = 0;
+    virtual std::vector<CampoDeQ> camposDeQ() = 0;
     /// Q in m3/s.
     virtual Real caudal() const = 0;
-    /// Whether the entry of a group is complete; if not, the user was told.
+    /// Whether the entry of a group is complete; if not, its message was shown.
     virtual bool grupoCompleto() = 0;
-    virtual Group describirGrupo() const = 0;
+    virtual Grupo describirGrupo() const = 0;
     /// Behind a group that was added.
     virtual void vaciarEntradaDeGrupo();
     /// Lines of the report between the rule and those of C, the area, I and Q.

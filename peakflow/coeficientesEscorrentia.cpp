@@ -56,8 +56,8 @@ constexpr std::array<Superficie, 18> superficies = {{
     {"techados", 0.95},
 }};
 
-template <typename Table>
-std::vector<std::string> nombres(const Table& tabla) {
+template <typename Tabla>
+std::vector<std::string> nombres(const Tabla& tabla) {
     std::vector<std::string> lista;
     lista.reserve(tabla.size());
     for (const auto& fila : tabla)
@@ -66,10 +66,10 @@ std::vector<std::string> nombres(const Table& tabla) {
 }
 
 /// nullptr if there is no row of that name.
-template <typename Table>
-auto buscar(const Table& tabla, std::string_view nombre) -> const typename Table::value_type* {
+template <typename Tabla>
+auto buscar(const Tabla& tabla, std::string_view nombre) -> const typename Tabla::value_type* {
     const auto fila = std::find_if(tabla.begin(), tabla.end(),
-                                   [&](const auto& each) { return each.nombre == nombre; });
+                                   [&](const auto& una) { return una.nombre == nombre; });
     return fila == tabla.end() ? nullptr : &*fila;
 }
 

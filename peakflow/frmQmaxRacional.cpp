@@ -12,19 +12,19 @@ constexpr const char* sinZonaUrbana = "Zonas urbanas";
 
 RainfallFlowTexts textos() {
     return {
-        .image = "racional",
-        .labelC = "Coeficiente C:",
-        .labelArea = "Área cuenca:",
-        .labelGroupArea = "Area (a):",
-        .covers = coberturasDelSuelo(),
-        .startCover = "Terrenos cultivados",
-        .textures = texturasDelSuelo(),
-        .startTexture = "Franco arenosa",
-        .groupHeaders = {"Grupo N°", "Área", "Cobertura", "Textura", "Pendiente", "C"},
-        .reportTitle = "Serie de datos de área, cobertura y de C parciales:",
-        .reportRule = 140,
-        .reportHeading = " N°\t Área\t Cobertura\t\t\t Textura\t\t Pendiente\t C",
-        .reportWidths = {10, 40, 22, 10, 10},
+        .dibujo = "racional",
+        .rotuloC = "Coeficiente C:",
+        .rotuloArea = "Área cuenca:",
+        .rotuloAreaGrupo = "Area (a):",
+        .coberturas = coberturasDelSuelo(),
+        .coberturaInicial = "Terrenos cultivados",
+        .texturas = texturasDelSuelo(),
+        .texturaInicial = "Franco arenosa",
+        .encabezadosGrupos = {"Grupo N°", "Área", "Cobertura", "Textura", "Pendiente", "C"},
+        .tituloReporte = "Serie de datos de área, cobertura y de C parciales:",
+        .guionesReporte = 140,
+        .columnasReporte = " N°\t Área\t Cobertura\t\t\t Textura\t\t Pendiente\t C",
+        .anchosReporte = {10, 40, 22, 10, 10},
     };
 }
 
@@ -45,7 +45,7 @@ frmQmaxRacional::frmQmaxRacional(Program& program)
     encadenar({&txtcq, &txtaq, &txtiq, &bCalcular});
 }
 
-std::vector<RainfallFlowWindow::FlowField> frmQmaxRacional::camposDeQ() {
+std::vector<RainfallFlowWindow::CampoDeQ> frmQmaxRacional::camposDeQ() {
     return {{&txtcq, "C"}, {&txtaq, "el área"}, {&txtiq, "la Imáx"}};
 }
 
@@ -64,7 +64,7 @@ bool frmQmaxRacional::grupoCompleto() {
     return false;
 }
 
-RainfallFlowWindow::Group frmQmaxRacional::describirGrupo() const {
+RainfallFlowWindow::Grupo frmQmaxRacional::describirGrupo() const {
     const std::string& superficie = cboZUrbana.text();
     if (superficie != sinZonaUrbana)
         return {coeficienteUrbano(superficie), superficie, {}, {}};

@@ -12,12 +12,12 @@ public:
     List cboZUrbana;
 
 protected:
-    std::vector<FlowField> camposDeQ() override;
+    std::vector<CampoDeQ> camposDeQ() override;
     /// Q = C I A / 360, the intensity in mm/hr and the area in hectares. Source: Mulvany (1851),
     /// in metric units.
     Real caudal() const override;
     bool grupoCompleto() override;
-    Group describirGrupo() const override;
+    Grupo describirGrupo() const override;
     void vaciarEntradaDeGrupo() override;
 };
 

@@ -29,10 +29,10 @@ void ReportWriter::abrirTabla(std::string_view titulo,
     encabezado(encabezados, guiones);
 }
 
-void ReportWriter::filas(const MSFlexGrid& grid, long primera, long ultima, std::string_view tras) {
+void ReportWriter::filas(const MSFlexGrid& cuadricula, long primera, long ultima, std::string_view tras) {
     for (long fila = primera; fila <= ultima; ++fila) {
-        for (long col = 0; col < grid.Cols(); ++col)
-            *this << grid.TextMatrix(fila, col) << tras;
+        for (long col = 0; col < cuadricula.Cols(); ++col)
+            *this << cuadricula.TextMatrix(fila, col) << tras;
         *this << LF;
     }
 }
@@ -43,9 +43,9 @@ void ReportWriter::cerrarTabla(long guiones) {
 }
 
 void ReportWriter::tablaDeDatos(std::string_view titulo, std::string_view columnas,
-                                const MSFlexGrid& grid, long cuantas, long guiones) {
+                                const MSFlexGrid& cuadricula, long cuantas, long guiones) {
     abrirTabla(titulo, {columnas}, guiones);
-    filas(grid, 1, cuantas, "\t\t");
+    filas(cuadricula, 1, cuantas, "\t\t");
     cerrarTabla(guiones);
 }
 

@@ -40,13 +40,13 @@ public:
                     long guiones);
     /// Rows `primera` to `ultima` of a grid, every cell followed by `tras`, every row by a line
     /// end. A row that does not exist is failure 9.
-    void filas(const MSFlexGrid& grid, long primera, long ultima, std::string_view tras);
+    void filas(const MSFlexGrid& cuadricula, long primera, long ultima, std::string_view tras);
     /// Ends a table: rule, empty line.
     void cerrarTabla(long guiones);
 
     /// A data grid as the reports list it: a table of its first `cuantas` rows with two tabs behind
     /// every cell.
-    void tablaDeDatos(std::string_view titulo, std::string_view columnas, const MSFlexGrid& grid,
+    void tablaDeDatos(std::string_view titulo, std::string_view columnas, const MSFlexGrid& cuadricula,
                       long cuantas, long guiones);
 
 private:

@@ -19,7 +19,7 @@ frmPadre::frmPadre(Program& program) : Window(program, "frmPadre", "Guardar dato
                        nullptr,     &mnuFilePrint, nullptr, &mnuFileExit};
     mnuEdit.entries = {&mnuEditCut, &mnuEditCopy, &mnuEditPaste};
     menuBar = {&mnuFile, &mnuEdit};
-    mnuFileNew.onClick = [this] { nuevoDocumento(); };
+    mnuFileNew.onClick = [this] { newDocument(); };
     mnuFileOpen.onClick = [this] { abrir(); };
     mnuFileSave.onClick = [this] { guardar(); };
     mnuFileSaveAs.onClick = [this] { guardarComo(); };
@@ -39,7 +39,7 @@ void frmPadre::load() {
     place.top = read("MainTop", 1000);
     place.width = read("MainWidth", 6500);
     place.height = read("MainHeight", 6500);
-    nuevoDocumento();
+    newDocument();
 }
 
 void frmPadre::unload() {
@@ -51,10 +51,10 @@ void frmPadre::unload() {
     platform().setSetting("MainHeight", textoPlano(place.height));
 }
 
-frmDocumento& frmPadre::nuevoDocumento() {
-    ++documentosHechos_;
+frmDocumento& frmPadre::newDocument() {
+    ++documentsMade_;
     documents_.push_back(
-        std::make_unique<frmDocumento>("Documento " + textoPlano(long{documentosHechos_})));
+        std::make_unique<frmDocumento>("Documento " + textoPlano(long{documentsMade_})));
     activated_.push_back(documents_.back().get());
     return *activated_.back();
 }
@@ -73,8 +73,8 @@ void frmPadre::closeDocument(frmDocumento& document) {
     documents_.erase(found);
 }
 
-frmDocumento& frmPadre::documentoParaReporte() {
-    return active() ? *active() : nuevoDocumento();
+frmDocumento& frmPadre::documentForReport() {
+    return active() ? *active() : newDocument();
 }
 
 std::string frmPadre::elegirArchivo(FileDialog::Kind kind, const char* title,
@@ -84,7 +84,7 @@ std::string frmPadre::elegirArchivo(FileDialog::Kind kind, const char* title,
 
 void frmPadre::abrir() {
     if (!active())
-        nuevoDocumento();
+        newDocument();
     const std::string path = elegirArchivo(FileDialog::Kind::open, "Abrir", archivosRtf);
     if (path.empty())
         return;

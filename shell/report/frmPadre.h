@@ -45,9 +45,9 @@ public:
     void activate(frmDocumento& document);
     /// Closes a document with no question; the one that was active before becomes active again.
     void closeDocument(frmDocumento& document);
-    frmDocumento& nuevoDocumento();
+    frmDocumento& newDocument();
     /// The active document; without one a new one is made, so that a report always has its place.
-    frmDocumento& documentoParaReporte();
+    frmDocumento& documentForReport();
 
     void load() override;
     void unload() override;
@@ -67,7 +67,7 @@ private:
     /// The same documents, the one that was activated last at the end.
     std::vector<frmDocumento*> activated_;
     /// Documents made so far, for their names.
-    Integer16 documentosHechos_;
+    Integer16 documentsMade_;
 };
 
 /// The report window of a program; nullptr while it is not loaded.

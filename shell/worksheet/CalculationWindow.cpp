@@ -23,13 +23,13 @@ CalculationWindow::CalculationWindow(Program& program, std::string name, std::st
     bCalculadora.onClick = [this] { this->program().show("frmCalculadora"); };
 }
 
-void CalculationWindow::mandatoTrasCalcular(Button& button) {
-    auto& calculation = commands[0].buttons;
-    calculation.insert(calculation.begin() + 1, &button);
+void CalculationWindow::mandatoTrasCalcular(Button& boton) {
+    auto& calculo = commands[0].buttons;
+    calculo.insert(calculo.begin() + 1, &boton);
 }
 
-void CalculationWindow::mandatoDeArchivo(Button& button) {
-    commands[1].buttons.push_back(&button);
+void CalculationWindow::mandatoDeArchivo(Button& boton) {
+    commands[1].buttons.push_back(&boton);
 }
 
 void CalculationWindow::registrarResultados(const std::vector<TextBox*>& campos) {
@@ -82,7 +82,7 @@ void CalculationWindow::reporte() {
     conTrampa(
         [this] {
             program().variables.contadorLineas = filasDelReporte();
-            ReportWriter escritor(ventanaDeReportes(program())->documentoParaReporte().rtfText);
+            ReportWriter escritor(ventanaDeReportes(program())->documentForReport().rtfText);
             escritor.titulo(caption);
             escribirReporte(escritor);
         },

@@ -24,9 +24,9 @@ public:
 
 protected:
     /// Shows a command of the window's own behind `bCalcular`.
-    void mandatoTrasCalcular(Button& button);
+    void mandatoTrasCalcular(Button& boton);
     /// Shows a command behind `bReporte`, among those of files.
-    void mandatoDeArchivo(Button& button);
+    void mandatoDeArchivo(Button& boton);
 
     /// Fields that hold results: they look like it and are emptied with the results.
     void registrarResultados(const std::vector<TextBox*>& campos);

@@ -33,14 +33,14 @@ public:
     Label lblNotaEnter;
 
     void mostrar(bool visibles) {
-        for (Label* each : {&lblIngreso, &lblNota, &lblNotaEnter})
-            each->visible = visibles;
+        for (Label* rotulo : {&lblIngreso, &lblNota, &lblNotaEnter})
+            rotulo->visible = visibles;
     }
 
     /// The grid with its heading and note, as the left column of a window.
-    Layout columna(MSFlexGrid& grid) {
+    Layout columna(MSFlexGrid& cuadricula) {
         using namespace layout;
-        return column({control(lblIngreso), control(grid).stretched(), control(lblNota),
+        return column({control(lblIngreso), control(cuadricula).stretched(), control(lblNota),
                        control(lblNotaEnter)});
     }
 };

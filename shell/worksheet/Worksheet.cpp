@@ -13,19 +13,19 @@ constexpr const char* mascaraAlta = "0.0#######";
 
 } // namespace
 
-Worksheet::Worksheet(Program& program, std::string name, std::string text, std::string rowHeader,
-                     SeriesLayout seriesLayout)
+Worksheet::Worksheet(Program& program, std::string name, std::string text,
+                     std::string encabezadoFilas, SeriesLayout seriesLayout)
     : CalculationWindow(program, std::move(name), std::move(text)),
-      layout_(std::move(seriesLayout)), rowHeader_(std::move(rowHeader)),
+      formatoSerie_(std::move(seriesLayout)), encabezadoFilas_(std::move(encabezadoFilas)),
       cdCrear_(FileDialog::Kind::save, "Ubicar directorio y escribir el nombre archivo a crear",
-               layout_.saveFilter),
+               formatoSerie_.saveFilter),
       cdAccesar_(FileDialog::Kind::open, "Seleccionar el archivo a cargar",
-                 layout_.filterToOpen()) {
+                 formatoSerie_.filterToOpen()) {
     mnuEdicion.entries = {&mnuEditInsertar, nullptr, &mnuEditEliminar};
     txtt.visible = false;
     grdt.editor = &txtt;
     grdt.popup = &mnuEdicion;
-    grdt.columnWidths.assign(layout_.fields.size() + 1, 1800);
+    grdt.columnWidths.assign(formatoSerie_.fields.size() + 1, 1800);
     grdt.columnWidths.front() = 700;
 
     grdt.onKeyPress = [this](char32_t codigo) { empezarEdicion(codigo); };
@@ -72,10 +72,10 @@ void Worksheet::ocultarTxtt() {
 
 void Worksheet::reiniciarCuadricula() {
     ocultarTxtt();
-    grdt.reset(2, static_cast<long>(layout_.fields.size()) + 1, 1, 1);
-    grdt.setTextMatrix(0, 0, rowHeader_);
-    for (std::size_t i = 0; i < layout_.fields.size(); ++i)
-        grdt.setTextMatrix(0, static_cast<long>(i) + 1, layout_.fields[i]);
+    grdt.reset(2, static_cast<long>(formatoSerie_.fields.size()) + 1, 1, 1);
+    grdt.setTextMatrix(0, 0, encabezadoFilas_);
+    for (std::size_t i = 0; i < formatoSerie_.fields.size(); ++i)
+        grdt.setTextMatrix(0, static_cast<long>(i) + 1, formatoSerie_.fields[i]);
     marcarFilaDeAlta(marcadorOtro);
 }
 

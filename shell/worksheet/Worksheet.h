@@ -19,7 +19,7 @@ namespace caudalera {
 /// arrays of its data columns; reading the grid, writing and loading the file follow from that.
 class Worksheet : public CalculationWindow {
 public:
-    Worksheet(Program& program, std::string name, std::string caption, std::string rowHeader,
+    Worksheet(Program& program, std::string name, std::string caption, std::string encabezadoFilas,
               SeriesLayout seriesLayout);
 
     MSFlexGrid grdt{*this, "grdt"};
@@ -33,7 +33,7 @@ public:
 
     void load() override;
 
-    const SeriesLayout& seriesLayout() const { return layout_; }
+    const SeriesLayout& seriesLayout() const { return formatoSerie_; }
 
 protected:
     /// The array of a data column.
@@ -99,8 +99,8 @@ private:
     /// Elements i of the data columns, as the file stores them.
     std::vector<float> registroDe(long i) const;
 
-    SeriesLayout layout_;
-    std::string rowHeader_;
+    SeriesLayout formatoSerie_;
+    std::string encabezadoFilas_;
     CommonDialog cdCrear_;
     CommonDialog cdAccesar_;
 };

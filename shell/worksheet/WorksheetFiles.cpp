@@ -32,11 +32,11 @@ void Worksheet::crear() {
             variables.nombreArchivo = cdCrear_.show(platform());
             leerCuadricula();
             SeriesFile archivo(variables, variables.nombreArchivo,
-                               static_cast<int>(layout_.fields.size()),
+                               static_cast<int>(formatoSerie_.fields.size()),
                                SeriesFile::Access::replace);
             for (long i = 1; i <= n; ++i)
                 archivo.write(registroDe(i));
-            if (layout_.lastRecord)
+            if (formatoSerie_.lastRecord)
                 archivo.write(enSimple(ultimoRegistro()));
             archivo.close();
         },
@@ -68,8 +68,8 @@ void Worksheet::cargar() {
     Variables& variables = program().variables;
     reiniciarCuadricula();
     n = 0;
-    SeriesFile archivo(variables, variables.nombreArchivo, static_cast<int>(layout_.fields.size()),
-                       SeriesFile::Access::read);
+    SeriesFile archivo(variables, variables.nombreArchivo,
+                       static_cast<int>(formatoSerie_.fields.size()), SeriesFile::Access::read);
     variables.numRegistros = archivo.records();
     cargarRegistros(archivo);
     archivo.close();
@@ -80,7 +80,7 @@ void Worksheet::cargar() {
 }
 
 void Worksheet::cargarRegistros(SeriesFile& archivo) {
-    const long datos = program().variables.numRegistros - (layout_.lastRecord ? 1L : 0L);
+    const long datos = program().variables.numRegistros - (formatoSerie_.lastRecord ? 1L : 0L);
     // A grid has its fixed row and one more at least.
     if (datos < 0)
         throw RuntimeFailure(Failure::index);
@@ -91,10 +91,10 @@ void Worksheet::cargarRegistros(SeriesFile& archivo) {
         for (std::size_t campo = 0; campo < registro.size(); ++campo) {
             const Real valor = Real::checked(registro[campo]);
             grdt.setTextMatrix(i, static_cast<long>(campo) + 1,
-                               formatear(static_cast<float>(valor.value()), layout_.mask));
+                               formatear(static_cast<float>(valor.value()), formatoSerie_.mask));
         }
     }
-    if (!layout_.lastRecord)
+    if (!formatoSerie_.lastRecord)
         return;
     recibirUltimoRegistro(archivo.read());
     // The record may have brought what the labels count from.

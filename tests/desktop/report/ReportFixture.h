@@ -54,7 +54,7 @@ public:
     void compose(const std::string& caption, int rows) {
         session->act([&] {
             session->program().show("frmPadre");
-            ReportWriter report(padre().documentoParaReporte().rtfText);
+            ReportWriter report(padre().documentForReport().rtfText);
             report.titulo(caption);
             report.regla(145);
             for (int row = 1; row <= rows; ++row)
