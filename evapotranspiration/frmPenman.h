@@ -66,7 +66,7 @@ private:
     void disponer();
     std::vector<TextBox*> entradas();
     std::vector<TextBox*> resultados();
-    /// The field's value. An empty one is told and gets the focus, and gives none.
+    /// The field's value. An empty field has a message and gets the focus, and gives none.
     std::optional<Real> leer(TextBox& campo, const char* magnitud);
     DatosPenman leerDatos();
     void mostrar(const TerminosPenman& terminos);

@@ -14,9 +14,9 @@ inline constexpr std::array<std::string_view, 12> nombresMeses = {
 /// Number of a month, 1 to 12, by its exact name; none for any other text.
 std::optional<long> numeroDeMes(std::string_view nombre);
 
-// One value a month, in single precision; failure 9 for a month that is not 1 to 12. The tables
-// are the method's own: the declination of March, positive, and the distance factor, which divides
-// the radiation, are not those of an ephemeris and stay as they are.
+// One value a month, in single precision; failure 9 for a month that is not 1 to 12. The values
+// are the method's, not an ephemeris's: the declination of March is positive, although the sun
+// stands south of the equator until the 20th, and the distance factor divides the radiation.
 
 /// Solar declination in radians.
 float declinacionSolar(long mes);

@@ -16,7 +16,7 @@ namespace caudalera {
 
 namespace {
 
-/// A form's unit of length in units of type: 1440 twips are an inch of 96 px, 8 px a unit.
+/// The model's widths are in twips: 1440 are an inch of 96 px, and a unit is 8 px.
 constexpr double twipsPerUnit = 1440.0 / 96 * 8;
 constexpr int defaultTwips = 1000;
 

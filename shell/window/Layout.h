@@ -49,7 +49,8 @@ struct Layout {
     }
 };
 
-/// Builders, to be read like the form: row({column({...}), frame(fraX, fields({...}))}).
+/// Builders; the nesting of the calls is that of the controls on the screen:
+/// row({column({...}), frame(fraX, fields({...}))}).
 namespace layout {
 
 Layout row(std::vector<Layout> children);

@@ -55,7 +55,7 @@ public:
     long TopRow() const { return topRow_; }
     void setTopRow(long row);
 
-    /// Column widths in twips, as the form gives them; a guide for the view's proportions.
+    /// Column widths in twips (1440 to the inch); the view takes their proportions from them.
     std::vector<int> columnWidths;
     std::vector<ColumnAlignment> columnAlignments;
     /// Rows that the grid shows at a time, the fixed ones not counted.

@@ -29,7 +29,7 @@ public:
 
     const std::string& name() const { return name_; }
     Program& program() const { return program_; }
-    /// In the order of the form.
+    /// In the order in which they were built, which is that of the window's members.
     const std::vector<Control*>& controls() const { return controls_; }
     /// nullptr if there is none of that name.
     Control* find(std::string_view name) const;

@@ -139,7 +139,7 @@ TEST_F(PenmanTest, AMonthThatIsNoneOnAFirstRunEndsTheProgramOnceAllIsRead) {
     enter("txtLatitud", "");
     choose("cobMes", "");
     click("bCalcular");
-    // All nine fields are empty and told first; month 0 then has no declination.
+    // All nine fields are empty and have their messages first; month 0 then has no declination.
     const auto shown = messages();
     ASSERT_EQ(shown.size(), 9U);
     EXPECT_EQ(shown.front(), told("Ingresar un valor adecuado para la latitud"));

@@ -75,7 +75,7 @@ TEST_F(RacionalProvincesTest, TakeReturnPeriodsUpTo200) {
     EXPECT_EQ(focus(), "txtTi");
 }
 
-// The limit stands before the equation: it is told also with no province set.
+// The limit stands before the equation: its message comes also with no province set.
 TEST_F(RacionalProvincesTest, RefuseTheReturnPeriodBeforeTheProvinceCounts) {
     duration("20", "1000");
     click("bcalcularI");

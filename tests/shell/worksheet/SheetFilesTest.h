@@ -18,7 +18,7 @@ protected:
         platform.answers = {path};
         click("bAccesar");
     }
-    /// A file of singles of 0, as many as told.
+    /// A file of that many singles of 0.
     std::string zeros(std::size_t singles) {
         std::string path = file("zeros");
         writeBytes(path, Bytes(singles * 4));
