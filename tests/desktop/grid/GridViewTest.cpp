@@ -3,7 +3,6 @@
 #include "tests/desktop/DesktopFixture.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QScrollBar>
 
 namespace caudalera {
@@ -216,21 +215,6 @@ private slots:
     void lettersWithControlAreNoText() {
         desktop_->press(Qt::Key_G, Qt::ControlModifier);
         QVERIFY(editor().isHidden());
-    }
-
-    void aValueIsTakenAtOnceInAGridOf32000Rows() {
-        fill(31998);
-        desktop_->press(Qt::Key_End, Qt::ControlModifier);
-        desktop_->press(Qt::Key_Home);
-        QCOMPARE(desktop_->grid().Row(), 31999L);
-        QElapsedTimer clock;
-        clock.start();
-        constexpr int rows = 10;
-        for (int i = 0; i < rows; ++i)
-            desktop_->typeValues({"12.5", "13.5"});
-        const double each = static_cast<double>(clock.elapsed()) / (2 * rows);
-        QCOMPARE(desktop_->row(32008), QStringLiteral(" 32008|12.5|13.5"));
-        QVERIFY2(each < 200, qPrintable(QStringLiteral("%1 ms a value").arg(each)));
     }
 
 private:

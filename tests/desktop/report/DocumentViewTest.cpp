@@ -2,9 +2,7 @@
 #include "desktop/richtext/RichTextBridge.h"
 #include "tests/desktop/report/ReportFixture.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QFontInfo>
 #include <QInputMethodEvent>
 #include <QMenu>
@@ -220,53 +218,6 @@ private slots:
         QCOMPARE(both, on->plainText());
         QVERIFY(both.indexOf("Segundo") < both.indexOf("Primero"));
         QCOMPARE(both.count("Resultados"), 2);
-    }
-
-    void aReportOfManyRowsShowsAtOnce() {
-        QElapsedTimer clock;
-        clock.start();
-        on->compose("Largo", 499);
-        on->view()->grab();
-        QVERIFY2(clock.elapsed() < 1500, qPrintable(QString::number(clock.elapsed())));
-    }
-
-    void aReportAtTheStartOfAVeryLongDocumentShowsAsSoonAsAtItsEnd() {
-        on->session->act([this] { on->text().assign(std::vector<Paragraph>(30000)); });
-        const auto taken = [this](std::size_t caret) {
-            on->session->act([&] { on->text().select(caret, 0); });
-            QElapsedTimer clock;
-            clock.start();
-            on->compose("Largo", 500);
-            return clock.elapsed();
-        };
-        const auto atEnd = taken(on->text().length());
-        const auto atStart = taken(0);
-        qInfo("%lld ms at the end, %lld ms at the start", static_cast<long long>(atEnd),
-              static_cast<long long>(atStart));
-        QVERIFY(atStart < 3 * atEnd + 200);
-        verifyInLine();
-    }
-
-    void typingInAVeryLongReportStaysFluid() {
-        on->session->act([this] {
-            std::vector<Paragraph> paragraphs(30000);
-            for (std::size_t i = 0; i < paragraphs.size(); ++i)
-                paragraphs[i].runs = {{std::to_string(i) + "\t122.0\t0.0143\t-1.4454", {}}};
-            on->text().assign(std::move(paragraphs));
-        });
-        QTextCursor middle(on->view()->document()->findBlockByNumber(15000));
-        on->view()->setTextCursor(middle);
-        // The toolkit lays a document out while it is idle; the first key is not to wait for that.
-        static_cast<void>(on->view()->document()->documentLayout()->documentSize());
-        QElapsedTimer clock;
-        clock.start();
-        for (int i = 0; i < 50; ++i)
-            QTest::keyClick(on->view(), i % 10 == 9 ? Qt::Key_Return : Qt::Key_A);
-        // A key each 40 ms is faster than anyone types.
-        qInfo("50 keys in %lld ms", static_cast<long long>(clock.elapsed()));
-        QVERIFY2(clock.elapsed() < 50 * 40, qPrintable(QString::number(clock.elapsed())));
-        QCOMPARE(on->text().paragraphs().size(), std::size_t{30005});
-        verifyInLine();
     }
 };
 

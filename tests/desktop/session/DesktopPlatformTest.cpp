@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QScopeGuard>
 
@@ -160,6 +161,9 @@ private slots:
     }
 
     void withoutAPrinterNothingIsPrintedAndNothingSaid() {
+        // CTest hides the machine's printers; a start by hand does not.
+        if (!QPrinterInfo::defaultPrinter().isNull())
+            QSKIP("a printer stands ready, and no test prints");
         desktop_->open("frmParamEsta");
         desktop_->clickButton("bImprimir");
         QVERIFY(!desktop_->program().ended());

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstddef>
 #include <random>
 #include <string>
@@ -348,24 +347,6 @@ TEST(RichTextTest, WorkOnTheSelectedParagraphsAloneGivesTheSameText) {
         ASSERT_EQ(apart.selLength(), direct.selLength()) << step;
     }
     EXPECT_GT(direct.paragraphs().size(), 100U);
-}
-
-TEST(RichTextTest, InsertionAtTheEndDoesNotSlowDownWithTheText) {
-    // Walking the text for each of these pieces would be 1.8e11 bytes, a matter of half a minute
-    // or more; without it they take some hundredths of a second.
-    constexpr int pieces = 600000;
-    const auto begin = std::chrono::steady_clock::now();
-    RichText text;
-    for (int i = 0; i < pieces; ++i) {
-        text.setSelText("-");
-    }
-    for (int i = 0; i < 20000; ++i) {
-        text.setSelText("\n");
-        text.setSelText("\t");
-    }
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
-    EXPECT_EQ(text.length(), 640000U);
-    EXPECT_LT(taken.count(), 5.0);
 }
 
 } // namespace
