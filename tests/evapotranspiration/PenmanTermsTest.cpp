@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 namespace caudalera {
 namespace {
@@ -18,6 +19,18 @@ TEST(PenmanTerms, VapourPressureIsThatOfTheTable) {
                                {24.5, 3.075}, {30, 4.243}, {40, 7.376}};
     for (const auto& [T, kPa] : table)
         EXPECT_NEAR(presionDeVaporSaturado(T).value(), 10 * kPa, 0.0051) << T;
+}
+
+// The values below, where no table is named, are the formulas of the sources in 40 decimal digits.
+
+TEST(PenmanTerms, VapourPressureIsThatOfTheFormula) {
+    const double exact[][2] = {{-10, 2.8571098216674128},
+                               {0, 6.108},
+                               {10, 12.279626193393785},
+                               {25, 31.677777175068475},
+                               {42.5, 84.167797588218453}};
+    for (const auto& [T, mbar] : exact)
+        EXPECT_NEAR(presionDeVaporSaturado(T).value(), mbar, 1e-13 * mbar) << T;
 }
 
 TEST(PenmanTerms, WindAtTwoMetresIsLogarithmicAndShiftedAboveTwo) {
@@ -42,6 +55,12 @@ TEST(PenmanTerms, WeightingFactorIsThatOfTheTable) {
             << T << " " << h;
 }
 
+TEST(PenmanTerms, WeightingFactorIsThatOfTheFormula) {
+    EXPECT_NEAR(factorDePonderacion(12.5, 850, 14).value(), 0.60372062512097889, 1e-14);
+    EXPECT_NEAR(factorDePonderacion(25, 0, 30).value(), 0.72564620908516609, 1e-14);
+    EXPECT_NEAR(factorDePonderacion(31, 2400, 45).value(), 0.83435510965934618, 1e-14);
+}
+
 // At altitudes where the barometric formula's base is negative.
 TEST(PenmanTerms, WeightingFactorFailsAboveTheAtmosphere) {
     EXPECT_EQ(testing::failureNumber([] { factorDePonderacion(20, 50000, 23.38); }), 5);
@@ -56,6 +75,91 @@ TEST(PenmanTerms, AdjustmentFactorWithoutWind) {
 // 0.0594; 0.00472; -0.00774; -0.00876; -0.00805.
 TEST(PenmanTerms, AdjustmentFactorByHand) {
     EXPECT_NEAR(factorDeAjuste(2, 3, 50, 10).value(), 1.07897, 1e-12);
+}
+
+TEST(PenmanTerms, AdjustmentFactorFarFromTheMiddle) {
+    EXPECT_NEAR(factorDeAjuste(1.3, 0.9, 35, 4.5).value(), 0.875801987235, 1e-14);
+    EXPECT_NEAR(factorDeAjuste(6.5, 2.2, 97, 13.5).value(), 1.48407415899, 1e-14);
+}
+
+struct Exact {
+    const char* name;
+    Real computed;
+    double value;
+};
+
+void expectExact(const std::vector<Exact>& terms) {
+    for (const auto& [name, computed, value] : terms)
+        EXPECT_NEAR(computed.value(), value, 1e-13 * value) << name;
+}
+
+// South of the equator, cloudy, wind measured above 2 m.
+TEST(PenmanTerms, AllOfACloudyMonth) {
+    const TerminosPenman terms = penman({.latitud = -0.3,
+                                         .declinacion = 0.25,
+                                         .dr = 1.02,
+                                         .h = 640,
+                                         .T = 21.5,
+                                         .HRmed = 62,
+                                         .HRmax = 88,
+                                         .Uz = 14,
+                                         .hz = 3,
+                                         .VdVn = 1.7,
+                                         .n = 6.5});
+    expectExact({{"Ra", terms.Ra, 12.397549580215230},
+                 {"N", terms.N, 11.395958291033535},
+                 {"nN", terms.nN, 0.57037765793810174},
+                 {"fz", terms.fz, 0.93092418916754019},
+                 {"U2", terms.U2, 13.032938648345563},
+                 {"ea", terms.ea, 25.644197206554635},
+                 {"ed", terms.ed, 15.899402268063874},
+                 {"deficit", terms.deficit, 9.7447949384907613},
+                 {"w", terms.w, 0.71539654294269912},
+                 {"unoMenosW", terms.unoMenosW, 0.28460345705730088},
+                 {"fu", terms.fu, 1.1145344244127925},
+                 {"ft", terms.ft, 14.954912103220952},
+                 {"fed", terms.fed, 0.16455415994965381},
+                 {"fnN", terms.fnN, 0.61333989214429157},
+                 {"Rs", terms.Rs, 6.6350300419211369},
+                 {"Rns", terms.Rns, 4.9762725314408527},
+                 {"Rn1", terms.Rn1, 1.5093638461353771},
+                 {"Rn", terms.Rn, 3.4669086853054756},
+                 {"c", terms.c, 1.0411987256431183},
+                 {"terRadiacion", terms.terRadiacion, 2.4802144881655552},
+                 {"terAdveccion", terms.terAdveccion, 3.0910523670896562},
+                 {"ETo", terms.ETo, 5.8007959499094691}});
+}
+
+// North of it, without a cloud (15 hours of the 13.3 that there are), wind measured at 2 m.
+TEST(PenmanTerms, AllOfACloudlessMonth) {
+    const TerminosPenman terms = penman({.latitud = 0.5,
+                                         .declinacion = 0.3,
+                                         .dr = 0.98,
+                                         .h = 95,
+                                         .T = 28.5,
+                                         .HRmed = 55,
+                                         .HRmax = 80,
+                                         .Uz = 9.5,
+                                         .hz = 2,
+                                         .VdVn = 2.5,
+                                         .n = 15});
+    EXPECT_EQ(terms.nN, 1);
+    expectExact({{"Ra", terms.Ra, 17.014925188844356},
+                 {"N", terms.N, 13.297222446956175},
+                 {"fz", terms.fz, 1.0002222037487032},
+                 {"U2", terms.U2, 9.5021109356126808},
+                 {"w", terms.w, 0.77101802889066194},
+                 {"fu", terms.fu, 0.88573678862770172},
+                 {"ft", terms.ft, 16.427445446019354},
+                 {"fed", terms.fed, 0.13644310562385713},
+                 {"fnN", terms.fnN, 1.0},
+                 {"Rs", terms.Rs, 12.761193891633267},
+                 {"Rns", terms.Rns, 9.5708954187249504},
+                 {"Rn1", terms.Rn1, 2.2414116741213694},
+                 {"c", terms.c, 1.3543366385099600},
+                 {"terRadiacion", terms.terRadiacion, 5.6511641095504009},
+                 {"terAdveccion", terms.terAdveccion, 3.5515838846845201},
+                 {"ETo", terms.ETo, 12.463618783566400}});
 }
 
 } // namespace

@@ -41,26 +41,46 @@ TEST(ProvincialIntensity, AlajuelaRisesBelowTheDurationE) {
                 1e-11);
 }
 
+constexpr Provincia provinces[] = {Provincia::alajuela, Provincia::cartago,    Provincia::liberia,
+                                   Provincia::limon,    Provincia::puntarenas, Provincia::sanJose};
+
+// The totals of the columns of constants, added up in decimals.
+TEST(ProvincialIntensity, TheConstantsSumUpToTheirTotals) {
+    double a = 0;
+    double b = 0;
+    double c = 0;
+    double d = 0;
+    for (const Provincia province : provinces) {
+        const ConstantesProvincia constants = constantesProvincia(province);
+        a += constants.a;
+        b += constants.b;
+        c += constants.c;
+        d += constants.d;
+    }
+    EXPECT_NEAR(a, 214.0900, 1e-9);
+    EXPECT_NEAR(b, 51.42723, 1e-9);
+    EXPECT_NEAR(c, 1064.086, 1e-9);
+    EXPECT_NEAR(d, 188.1845, 1e-9);
+}
+
 // With D = 1 and T = 1 both logarithms are 0 and c alone is left.
-TEST(ProvincialIntensity, TheConstantsOfEachProvince) {
-    struct Row {
-        Provincia province;
-        double a, b, c, d;
-    };
-    for (const Row& row : {Row{Provincia::alajuela, 42.614, 24.6041, 209.844, 38.7305},
-                           Row{Provincia::cartago, 42.2027, 8.0731, 156.892, 28.4612},
-                           Row{Provincia::liberia, 44.1334, 7.49972, 200.556, 35.9234},
-                           Row{Provincia::limon, 21.7857, 3.13747, 155.052, 25.8865},
-                           Row{Provincia::puntarenas, 43.0524, 5.32126, 175.645, 29.5811},
-                           Row{Provincia::sanJose, 20.3018, 2.79158, 166.097, 29.6018}}) {
-        const auto constants = constantesProvincia(row.province);
-        EXPECT_EQ(constants.a, row.a);
-        EXPECT_EQ(constants.b, row.b);
-        EXPECT_EQ(constants.c, row.c);
-        EXPECT_EQ(constants.d, row.d);
-        if (row.province != Provincia::alajuela) {
-            EXPECT_EQ(intensidadProvincial(row.province, 1, 1), row.c);
+TEST(ProvincialIntensity, OfOneMinuteAndOneYearIsItsConstant) {
+    for (const Provincia province : provinces) {
+        if (province != Provincia::alajuela) {
+            EXPECT_EQ(intensidadProvincial(province, 1, 1), constantesProvincia(province).c);
         }
+    }
+}
+
+// A rain that lasts longer is less intense, one that comes more seldom is more so.
+TEST(ProvincialIntensity, FallsWithTheDurationAndRisesWithThePeriod) {
+    for (const Provincia province : provinces) {
+        const auto I = [&](double D, double T) { return intensidadProvincial(province, D, T); };
+        for (double D = 5; D < 120; D += 5)
+            EXPECT_GT(I(D, 10), I(D + 5, 10)) << D;
+        for (double T = 2; T < 200; T += 6)
+            EXPECT_LT(I(60, T), I(60, T + 6)) << T;
+        EXPECT_GT(I(120, 10), 0);
     }
 }
 
