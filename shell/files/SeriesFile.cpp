@@ -30,7 +30,7 @@ float fromBytes(const char* bytes) {
 } // namespace
 
 SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields, Access access)
-    : variables_(variables), fields_(fields) {
+    : variables_(variables), record_(static_cast<std::size_t>(fields)) {
     if (std::exchange(variables.archivoUnoEnUso, false))
         throw RuntimeFailure(Failure::fileInUse);
     if (path.empty())
@@ -51,34 +51,20 @@ SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields
 }
 
 Integer16 SeriesFile::records() const {
-    const auto count = bytes_ / (std::uintmax_t{4} * static_cast<std::uintmax_t>(fields_));
+    const auto count = bytes_ / (std::uintmax_t{4} * record_.size());
     if (count > static_cast<std::uintmax_t>(std::numeric_limits<std::int16_t>::max()))
         throw RuntimeFailure(Failure::overflow);
     return {static_cast<long>(count)};
 }
 
-std::span<float> SeriesFile::buffer() {
-    switch (fields_) {
-    case 1:
-        return variables_.registroUno;
-    case 2:
-        return variables_.registroPar;
-    case 3:
-        return variables_.registroTrio;
-    default:
-        return variables_.registroCuarteto;
-    }
-}
-
 std::span<const float> SeriesFile::read() {
-    const auto record = buffer();
-    for (float& field : record) {
+    for (float& field : record_) {
         std::array<char, 4> bytes{};
         if (!stream_.read(bytes.data(), bytes.size()))
             throw RuntimeFailure(Failure::fileAccess);
         field = fromBytes(bytes.data());
     }
-    return record;
+    return record_;
 }
 
 void SeriesFile::write(std::span<const float> record) {

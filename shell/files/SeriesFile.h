@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace caudalera {
 
@@ -25,7 +26,7 @@ public:
 
     /// Records that the file holds, a partial last one left out; failure 6 past 16 bits.
     Integer16 records() const;
-    /// The next record; the buffer of `variables` for this width holds it. Failure 75 at the end.
+    /// The next record, which stands until another is read. Failure 75 at the end.
     std::span<const float> read();
     /// Appends a record.
     void write(std::span<const float> record);
@@ -34,10 +35,8 @@ public:
     void close();
 
 private:
-    std::span<float> buffer();
-
     Variables& variables_;
-    int fields_;
+    std::vector<float> record_;
     std::uintmax_t bytes_ = 0;
     std::ifstream stream_;
     std::optional<SafeFile> replacement_;

@@ -2,7 +2,6 @@
 
 #include "shell/numbers/Integer16.h"
 
-#include <array>
 #include <string>
 
 namespace caudalera {
@@ -16,11 +15,6 @@ struct Variables {
     Integer16 numRegistros;
     /// Path from the last file dialog.
     std::string nombreArchivo;
-    /// Record buffers of the 4-, 8-, 12- and 16-byte files.
-    std::array<float, 1> registroUno{};
-    std::array<float, 2> registroPar{};
-    std::array<float, 3> registroTrio{};
-    std::array<float, 4> registroCuarteto{};
     /// A command that failed between open and close leaves it so; the next opening fails and frees
     /// it.
     bool archivoUnoEnUso = false;

@@ -18,8 +18,6 @@ struct SeriesLayout {
     std::string mask = "#0.0#######";
 
     const std::string& filterToOpen() const { return openFilter.empty() ? saveFilter : openFilter; }
-    /// Bytes of a record: four a field.
-    int recordBytes() const { return static_cast<int>(fields.size()) * 4; }
 };
 
 // The layouts that several windows share, so that they read each other's files.
