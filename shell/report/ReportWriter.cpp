@@ -29,7 +29,8 @@ void ReportWriter::abrirTabla(std::string_view titulo,
     encabezado(encabezados, guiones);
 }
 
-void ReportWriter::filas(const MSFlexGrid& cuadricula, long primera, long ultima, std::string_view tras) {
+void ReportWriter::filas(const MSFlexGrid& cuadricula, long primera, long ultima,
+                         std::string_view tras) {
     for (long fila = primera; fila <= ultima; ++fila) {
         for (long col = 0; col < cuadricula.Cols(); ++col)
             *this << cuadricula.TextMatrix(fila, col) << tras;

@@ -46,8 +46,8 @@ public:
 
     /// A data grid as the reports list it: a table of its first `cuantas` rows with two tabs behind
     /// every cell.
-    void tablaDeDatos(std::string_view titulo, std::string_view columnas, const MSFlexGrid& cuadricula,
-                      long cuantas, long guiones);
+    void tablaDeDatos(std::string_view titulo, std::string_view columnas,
+                      const MSFlexGrid& cuadricula, long cuantas, long guiones);
 
 private:
     RichText& document_;

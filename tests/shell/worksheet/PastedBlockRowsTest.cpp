@@ -26,7 +26,7 @@ protected:
 };
 
 TEST_F(PastedBlockRowsTest, ABlockThatPassesTheLastRowIsRefused) {
-    const MSFlexGrid& grid = filled("frmParamEsta", 0);
+    const MSFlexGrid& grid = filled("hojaUno", 0);
     EXPECT_EQ(block(32765, "1").refusalFor(grid), "");
     EXPECT_EQ(block(32766, "1").refusalFor(grid),
               "No se pegó nada: con el bloque habría 32766 filas de datos y en la cuadrícula caben "
@@ -34,7 +34,7 @@ TEST_F(PastedBlockRowsTest, ABlockThatPassesTheLastRowIsRefused) {
 }
 
 TEST_F(PastedBlockRowsTest, TheRowsThatItReplacesAreNotCounted) {
-    MSFlexGrid& grid = filled("frmRegreLineal", 32760);
+    MSFlexGrid& grid = filled("hojaDos", 32760);
     EXPECT_EQ(block(5, "1\t2").refusalFor(grid), "");
     EXPECT_NE(block(6, "1\t2").refusalFor(grid), "");
     grid.setRow(32751);
@@ -47,14 +47,14 @@ TEST_F(PastedBlockRowsTest, TheRowsThatItReplacesAreNotCounted) {
 }
 
 TEST_F(PastedBlockRowsTest, ARowThatIsNotCompletedIsNoNewOne) {
-    MSFlexGrid& grid = filled("frmRegreLineal", 32765);
+    MSFlexGrid& grid = filled("hojaDos", 32765);
     EXPECT_EQ(block(1, "1").refusalFor(grid), "");
     grid.setCol(2);
     EXPECT_NE(block(1, "2").refusalFor(grid), "");
 }
 
 TEST_F(PastedBlockRowsTest, TheLastRowsThatFindRoomAreEntered) {
-    MSFlexGrid& grid = filled("frmRegreLineal", 32764);
+    MSFlexGrid& grid = filled("hojaDos", 32764);
     const PastedBlock last = block(1, "1\t2");
     ASSERT_EQ(last.refusalFor(grid), "");
     last.enter(program, grid);

@@ -106,7 +106,7 @@ TEST_F(WorksheetEditingTest, EnterStoresTheNumericReading) {
 }
 
 TEST_F(WorksheetEditingTest, AKeyEditsTheOpenBoxWhereItsCaretIs) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     type("grdt", "15");
     program.select(hoja.txtt, 1, 0);
     type("grdt", "2");
@@ -127,7 +127,7 @@ TEST_F(WorksheetEditingTest, DeleteOnTheGridOpensNoBox) {
 }
 
 TEST_F(WorksheetEditingTest, ANumberPastedIntoTheOpenBoxIsReadAsAPastedBlockIs) {
-    auto& hoja = sheet("frmParamEsta");
+    auto& hoja = sheet("hojaUno");
     const std::vector<std::pair<std::string, std::string>> pasted = {
         {"1,5", "1.5"},     {"1.234,5", "1234.5"}, {"-0,25\r\n", "-0.25"},
         {"1.5", "1.5"},     {" 1,5e3 ", "1.5e3"},  {"12abc", "12abc"},
