@@ -1,10 +1,9 @@
 #include "app/registry.h"
 #include "desktop/Views.h"
-#include "desktop/session/Session.h"
+#include "desktop/session/Application.h"
 #include "desktop/style/Style.h"
 #include "shell/files/FileSizeSignal.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QLibraryInfo>
 #include <QTimer>
@@ -16,7 +15,7 @@ int main(int argc, char** argv) {
     QElapsedTimer sinceStart;
     sinceStart.start();
 
-    QApplication application(argc, argv);
+    caudalera::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Caudalera"));
     QGuiApplication::setDesktopFileName(QStringLiteral("caudalera"));
     QApplication::setOrganizationName(QStringLiteral("Caudalera"));
@@ -31,6 +30,7 @@ int main(int argc, char** argv) {
     caudalera::style::apply(application);
 
     caudalera::Session session(caudalera::ventanas(), caudalera::makeView);
+    application.watch(session);
     QObject::connect(&session, &caudalera::Session::ended, &application,
                      [](int status) { QApplication::exit(status); });
     session.start();

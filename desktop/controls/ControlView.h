@@ -24,8 +24,6 @@ public:
     virtual QWidget* focusTarget() const { return nullptr; }
     /// Brings the widget in line with the control: here what all controls have.
     virtual void sync();
-    /// The control is gone: reads nothing of it any more.
-    virtual void detach() {}
 
 private:
     Control& control_;

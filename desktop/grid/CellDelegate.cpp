@@ -19,28 +19,25 @@ QRect textRect(const QStyleOptionViewItem& option) {
 } // namespace
 
 CellDelegate::CellDelegate(const MSFlexGrid& grid, QObject* parent)
-    : QStyledItemDelegate(parent), grid_(&grid) {}
+    : QStyledItemDelegate(parent), grid_(grid) {}
 
 bool CellDelegate::selected(long row, long col) const {
     const auto between = [](long a, long x, long b) {
         return x >= std::min(a, b) && x <= std::max(a, b);
     };
-    return between(grid_->Row(), row, grid_->RowSel()) &&
-           between(grid_->Col(), col, grid_->ColSel());
+    return between(grid_.Row(), row, grid_.RowSel()) && between(grid_.Col(), col, grid_.ColSel());
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
-    if (!grid_)
-        return;
-    const long row = index.row() + grid_->FixedRows();
+    const long row = index.row() + grid_.FixedRows();
     const long col = index.column();
     const bool focused =
         (option.state & QStyle::State_HasFocus) || (option.widget && option.widget->hasFocus());
-    const bool single = grid_->Row() == grid_->RowSel() && grid_->Col() == grid_->ColSel();
-    const bool current = row == grid_->Row() && col == grid_->Col();
+    const bool single = grid_.Row() == grid_.RowSel() && grid_.Col() == grid_.ColSel();
+    const bool current = row == grid_.Row() && col == grid_.Col();
 
-    if (col < grid_->FixedCols()) {
+    if (col < grid_.FixedCols()) {
         painter->fillRect(option.rect, style::paleAccent());
     } else if (selected(row, col) && (!single || focused)) {
         painter->fillRect(option.rect, style::selection());
@@ -54,7 +51,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawText(room, index.data(Qt::TextAlignmentRole).toInt() | Qt::TextSingleLine,
                           option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
     }
-    if (current && grid_->editor) {
+    if (current && grid_.editor) {
         painter->setPen(QPen(focused ? style::accent() : style::lines().darker(120), 2));
         painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
     }

@@ -14,9 +14,6 @@ class CellDelegate : public QStyledItemDelegate {
 public:
     CellDelegate(const MSFlexGrid& grid, QObject* parent);
 
-    /// The grid is gone.
-    void detach() { grid_ = nullptr; }
-
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -25,7 +22,7 @@ public:
 private:
     bool selected(long row, long col) const;
 
-    const MSFlexGrid* grid_;
+    const MSFlexGrid& grid_;
 };
 
 } // namespace caudalera

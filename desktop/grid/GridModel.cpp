@@ -7,17 +7,17 @@
 namespace caudalera {
 
 GridModel::GridModel(const MSFlexGrid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(&grid) {
+    : QAbstractTableModel(parent), grid_(grid) {
     sync();
 }
 
 void GridModel::sync() {
-    if (!grid_ || revision_ == grid_->revision())
+    if (revision_ == grid_.revision())
         return;
-    revision_ = grid_->revision();
-    const int fixedRows = static_cast<int>(grid_->FixedRows());
-    const int rows = static_cast<int>(grid_->Rows()) - fixedRows;
-    const int cols = static_cast<int>(grid_->Cols());
+    revision_ = grid_.revision();
+    const int fixedRows = static_cast<int>(grid_.FixedRows());
+    const int rows = static_cast<int>(grid_.Rows()) - fixedRows;
+    const int cols = static_cast<int>(grid_.Cols());
     if (cols != cols_ || fixedRows != fixedRows_) {
         beginResetModel();
         rows_ = rows;
@@ -53,16 +53,16 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QString GridModel::text(long row, long col) const {
-    if (!grid_ || row < 0 || row >= grid_->Rows() || col < 0 || col >= grid_->Cols())
+    if (row < 0 || row >= grid_.Rows() || col < 0 || col >= grid_.Cols())
         return {};
-    return toQString(grid_->TextMatrix(row, col));
+    return toQString(grid_.TextMatrix(row, col));
 }
 
 Qt::Alignment GridModel::alignment(int col) const {
     using Column = MSFlexGrid::ColumnAlignment;
     const auto i = static_cast<std::size_t>(col);
     const Column column =
-        grid_ && i < grid_->columnAlignments.size() ? grid_->columnAlignments[i] : Column::center;
+        i < grid_.columnAlignments.size() ? grid_.columnAlignments[i] : Column::center;
     switch (column) {
     case Column::left:
         return Qt::AlignLeft | Qt::AlignVCenter;
@@ -99,7 +99,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
-    if (grid_ && grid_->canSelect(gridRow(index.row()), index.column()))
+    if (grid_.canSelect(gridRow(index.row()), index.column()))
         return Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     return Qt::ItemIsEnabled;
 }

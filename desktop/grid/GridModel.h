@@ -16,8 +16,6 @@ public:
 
     /// Takes over size and texts if the grid's revision has moved on.
     void sync();
-    /// The grid is gone.
-    void detach() { grid_ = nullptr; }
 
     /// Where a cell of the grid stands here, and back.
     QModelIndex indexOf(long row, long col) const;
@@ -34,7 +32,7 @@ private:
     QString text(long row, long col) const;
     Qt::Alignment alignment(int col) const;
 
-    const MSFlexGrid* grid_;
+    const MSFlexGrid& grid_;
     /// What the views have been told of; the grid may be ahead of it until the next sync.
     int rows_ = 0;
     int cols_ = 0;

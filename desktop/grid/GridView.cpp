@@ -66,11 +66,6 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { syncEditor(); });
 }
 
-void GridView::detach() {
-    model_.detach();
-    delegate_.detach();
-}
-
 void GridView::sync() {
     const Cell current{grid_.Row(), grid_.Col()};
     const Cell end{grid_.RowSel(), grid_.ColSel()};

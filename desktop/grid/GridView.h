@@ -20,7 +20,6 @@ public:
     GridView(Session& session, MSFlexGrid& grid, QWidget* parent);
 
     void sync();
-    void detach();
     /// nullptr for a grid that can't be edited.
     GridEditor* editor() const { return editor_; }
 
@@ -93,7 +92,6 @@ public:
 
     QWidget* focusTarget() const override { return &view_; }
     void sync() override;
-    void detach() override { view_.detach(); }
     GridView& view() const { return view_; }
     MSFlexGrid& grid() const { return static_cast<MSFlexGrid&>(control()); }
 

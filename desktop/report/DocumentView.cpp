@@ -113,7 +113,7 @@ void DocumentView::noteChange(int position, int removed, int added) {
 }
 
 void DocumentView::tellModel() {
-    if (applying_ || session_.busy() || ventanaDeReportes(session_.program()) != &padre_)
+    if (applying_ || session_.busy())
         return;
     const RichText& text = document_.rtfText;
     const QTextCursor cursor = textCursor();

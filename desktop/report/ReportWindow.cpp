@@ -66,7 +66,7 @@ ReportWindow::ReportWindow(Session& session, frmPadre& padre)
     }
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         const auto* frame = static_cast<DocumentFrame*>(window);
-        if (!frame || session_.busy() || !loaded() || padre_.active() == frame->document())
+        if (!frame || session_.busy() || padre_.active() == frame->document())
             return;
         session_.act([&] {
             for (const auto& document : padre_.documents())
@@ -81,10 +81,6 @@ ReportWindow::ReportWindow(Session& session, frmPadre& padre)
 ReportWindow::~ReportWindow() {
     // The area tells of windows that go; nobody is left to hear it.
     area_->disconnect(this);
-}
-
-bool ReportWindow::loaded() const {
-    return ventanaDeReportes(session_.program()) == &padre_;
 }
 
 void ReportWindow::buildMenu() {
@@ -129,7 +125,7 @@ void ReportWindow::place() {
 }
 
 void ReportWindow::recordPlace() {
-    if (!isVisible() || session_.busy() || !loaded())
+    if (!isVisible() || session_.busy())
         return;
     const bool minimized = isMinimized();
     const QRect now = minimized ? placed_ : QRect(pos(), size());
@@ -175,8 +171,7 @@ void ReportWindow::syncDocuments() {
         if (!open) {
             maximized = maximized || frame->isMaximized();
             area_->removeSubWindow(frame);
-            frame->hide();
-            frame->deleteLater();
+            session_.retire(*frame);
         }
         return !open;
     });
@@ -187,10 +182,9 @@ void ReportWindow::syncDocuments() {
         }
         auto* view = new DocumentView(session_, padre_, *document, *editMenu_);
         frmDocumento& shown = *document;
-        auto* frame = new DocumentFrame(shown, view, [this, &shown] {
-            if (loaded())
-                session_.act([&] { padre_.closeDocument(shown); });
-        });
+        auto* frame = new DocumentFrame(
+            shown, view, [this, &shown] { session_.act([&] { padre_.closeDocument(shown); }); });
+        share(*frame, document);
         frames_.push_back(frame);
         area_->addSubWindow(frame);
         // Reports are wide: the first document takes all the room, the others follow suit.
@@ -215,8 +209,6 @@ DocumentFrame* ReportWindow::frameOf(const frmDocumento* document) const {
 }
 
 void ReportWindow::closeEvent(QCloseEvent* event) {
-    if (!loaded())
-        return;
     event->ignore();
     recordPlace();
     session_.act([this] { session_.program().close(padre_); });

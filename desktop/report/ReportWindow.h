@@ -45,8 +45,6 @@ private:
     void recordPlace();
     void syncDocuments();
     DocumentFrame* frameOf(const frmDocumento* document) const;
-    /// Whether the model's window is still loaded; the view outlives it by a moment.
-    bool loaded() const;
 
     Session& session_;
     frmPadre& padre_;

@@ -92,7 +92,12 @@ DesktopPlatform::DesktopPlatform(Session& session)
 DesktopPlatform::~DesktopPlatform() = default;
 
 QWidget* DesktopPlatform::parentForDialogs() const {
-    if (QWidget* active = QApplication::activeWindow())
+    // A pop-up goes away when it closes, a view that was retired soon, and either would take the
+    // dialog with it.
+    QWidget* active = QApplication::activeWindow();
+    while (active && active->windowType() == Qt::Popup)
+        active = active->parentWidget() ? active->parentWidget()->window() : nullptr;
+    if (active && active->isVisible())
         return active;
     const Window* front = session_.program().front();
     return front ? session_.viewOf(*front) : nullptr;
@@ -236,6 +241,12 @@ void DesktopPlatform::endProgram(const Ending& ending) {
                     .arg(ending.number)
                     .arg(toQString(nombreFallo(ending.number))),
                 programTitle(), Icon::error);
+    } else if (ending.reason == Ending::Reason::fault) {
+        // What the views show now may be the very fault.
+        QString text = QStringLiteral("Caudalera ha tenido un fallo interno y debe cerrarse.");
+        if (!ending.what.empty())
+            text += QStringLiteral("\n\n") + QString::fromStdString(ending.what);
+        showBox(text, programTitle(), Icon::error);
     }
     session_.end(ending);
 }

@@ -2,8 +2,9 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QWidget>
 #include <algorithm>
+#include <exception>
+#include <utility>
 
 namespace caudalera {
 
@@ -21,11 +22,27 @@ private:
     int& depth_;
 };
 
+/// What a person does to a widget, the keyboard that comes to it included.
+bool isInput(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::FocusIn:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::Close:
+        return true;
+    default:
+        return event.isInputEvent();
+    }
+}
+
 } // namespace
 
-void View::retire() {
-    widget().hide();
-    widget().deleteLater();
+void share(QWidget& widget, std::shared_ptr<const void> shown) {
+    // Connections go behind the children.
+    QObject::connect(&widget, &QObject::destroyed, [shown = std::move(shown)] {});
 }
 
 Session::Session(const std::vector<WindowEntry>& windows, ViewFactory makeView)
@@ -35,6 +52,8 @@ Session::Session(const std::vector<WindowEntry>& windows, ViewFactory makeView)
 
 Session::~Session() {
     const Nesting nesting(depth_);
+    for (const auto& widget : retired_)
+        delete widget;
     for (const Opened& opened : views_)
         delete &opened.view->widget();
 }
@@ -46,39 +65,75 @@ void Session::start() {
 void Session::act(const std::function<void()>& event) {
     if (busy())
         return;
-    {
-        const Nesting nesting(depth_);
-        event();
+    try {
+        {
+            const Nesting nesting(depth_);
+            event();
+        }
+        if (!program_.ended())
+            sync();
+    } catch (...) {
+        fail();
     }
-    if (!program_.ended())
-        sync();
+}
+
+void Session::fail() {
+    // While the box stands, there is nothing to be done behind it.
+    const Nesting nesting(depth_);
+    try {
+        try {
+            throw;
+        } catch (const std::exception& fault) {
+            program_.fail(fault.what());
+        } catch (...) {
+            program_.fail({});
+        }
+    } catch (...) {
+        // Not even the words could be shown.
+    }
+    end({Ending::Reason::fault, 0, {}});
 }
 
 void Session::sync() {
     const Nesting nesting(depth_);
-    closeUnloaded();
+    retireUnloaded();
     openNew();
     for (const Opened& opened : views_)
         opened.view->sync();
     raiseShown();
 }
 
-void Session::closeUnloaded() {
-    const auto& windows = program_.windows();
+void Session::retireUnloaded() {
     std::erase_if(views_, [&](const Opened& opened) {
-        const bool loaded = std::any_of(windows.begin(), windows.end(), [&](const auto& window) {
-            return window.get() == opened.window;
-        });
+        const bool loaded = opened.window->loaded();
         if (!loaded)
-            opened.view->retire();
+            retire(opened.view->widget());
         return !loaded;
     });
 }
 
+void Session::retire(QWidget& widget) {
+    std::erase(retired_, nullptr);
+    retired_.emplace_back(&widget);
+    widget.hide();
+    widget.deleteLater();
+}
+
+bool Session::retired(const QObject* object) const {
+    for (; object && !retired_.empty(); object = object->parent()) {
+        if (std::find(retired_.begin(), retired_.end(), object) != retired_.end())
+            return true;
+    }
+    return false;
+}
+
 void Session::openNew() {
     for (const auto& window : program_.windows()) {
-        if (!viewOf(*window))
-            views_.push_back({window.get(), 0, makeView_(*this, *window)});
+        if (viewOf(*window))
+            continue;
+        View* const view = makeView_(*this, *window);
+        share(view->widget(), window);
+        views_.push_back({window.get(), 0, view});
     }
 }
 
@@ -110,10 +165,13 @@ QWidget* Session::viewOf(const Window& window) const {
 }
 
 void Session::end(const Ending& ending) {
-    emit ended(ending.reason == Ending::Reason::fatal ? 1 : 0);
+    if (!std::exchange(ended_, true))
+        emit ended(ending.reason == Ending::Reason::exit ? 0 : 1);
 }
 
 bool Session::eventFilter(QObject* watched, QEvent* event) {
+    if (isInput(*event) && retired(watched))
+        return true;
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
         platform_.openHelp();

@@ -4,11 +4,11 @@
 #include "shell/window/Program.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 #include <functional>
 #include <memory>
 #include <vector>
-
-class QWidget;
 
 namespace caudalera {
 
@@ -25,16 +25,18 @@ public:
     virtual QWidget& widget() = 0;
     /// Brings every widget in line with the model; writes only what differs.
     virtual void sync() = 0;
-    /// The model's window is gone: the view disappears at once, reads nothing any more and is
-    /// deleted when the running event has ended.
-    virtual void retire();
 };
 
-/// Makes the view of a window that was loaded; its widget is the session's to delete.
+/// Shares what a widget shows with it: `shown` stays as long as the last of the widget's children.
+void share(QWidget& widget, std::shared_ptr<const void> shown);
+
+/// Makes the view of a window that was loaded; its widget is the session's to delete, and the
+/// session shares the window with it.
 using ViewFactory = std::function<View*(Session&, Window&)>;
 
 /// The running program with its views. A person's act is one call on the program; then all views
-/// are brought in line with the model.
+/// are brought in line with the model. An exception that comes out of either is a fault of ours:
+/// the user is told, and the program ends.
 class Session : public QObject {
     Q_OBJECT
 
@@ -51,8 +53,14 @@ public:
     /// Runs one act of the user on the program, then brings all views in line. While an act or a
     /// sync runs it does nothing: what the views report then is their own doing.
     void act(const std::function<void()>& event);
-    /// Opens a view for each new window, closes those of unloaded ones, syncs the others.
+    /// Opens a view for each new window, retires those of unloaded ones, syncs the others.
     void sync();
+    /// From within a catch: what was caught is a fault of the program, which the user is told in a
+    /// box before it ends. Only the first one is told.
+    void fail();
+    /// What the widget shows is gone from the model: it disappears at once, takes no input any
+    /// more, no more than its pop-ups do, and is deleted when the running event has ended.
+    void retire(QWidget& widget);
     /// Inside an act or a sync: views must not turn programmatic changes into events.
     bool busy() const { return depth_ > 0; }
 
@@ -60,7 +68,7 @@ public:
     QWidget* viewOf(const Window& window) const;
 
 signals:
-    /// The program has ended with this exit status.
+    /// The program has ended with this exit status; said once.
     void ended(int status);
 
 protected:
@@ -73,9 +81,12 @@ private:
         View* view;
     };
 
-    void closeUnloaded();
+    void retireUnloaded();
     void openNew();
     void raiseShown();
+    /// Whether an object is a retired widget or stands in one.
+    bool retired(const QObject* object) const;
+    /// Says so, unless it was said already.
     void end(const Ending& ending);
     friend class DesktopPlatform;
 
@@ -83,7 +94,9 @@ private:
     Program program_;
     ViewFactory makeView_;
     std::vector<Opened> views_;
+    std::vector<QPointer<QWidget>> retired_;
     int depth_ = 0;
+    bool ended_ = false;
 };
 
 } // namespace caudalera

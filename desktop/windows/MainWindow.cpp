@@ -56,8 +56,6 @@ void MainWindow::fill(QMenu& menu, const MenuEntry& title) {
 }
 
 void MainWindow::sync() {
-    if (retired_)
-        return;
     if (const QString title = toQString(window_.caption); windowTitle() != title)
         setWindowTitle(title);
     for (const auto& [entry, action] : actions_) {
@@ -66,11 +64,6 @@ void MainWindow::sync() {
     }
     exit_->sync();
     placeExit();
-}
-
-void MainWindow::retire() {
-    retired_ = true;
-    View::retire();
 }
 
 void MainWindow::placeExit() {
@@ -89,8 +82,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!retired_)
-        session_.act([this] { session_.program().close(window_); });
+    session_.act([this] { session_.program().close(window_); });
 }
 
 } // namespace caudalera

@@ -21,7 +21,6 @@ public:
 
     QWidget& widget() override { return *this; }
     void sync() override;
-    void retire() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -36,7 +35,6 @@ private:
     frmCaudalera& window_;
     CommandButton* exit_;
     std::vector<std::pair<const MenuEntry*, QAction*>> actions_;
-    bool retired_ = false;
 };
 
 } // namespace caudalera

@@ -73,8 +73,6 @@ void WindowView::takeFirstSize() {
 }
 
 void WindowView::sync() {
-    if (retired_)
-        return;
     if (const QString title = toQString(window_.caption); windowTitle() != title)
         setWindowTitle(title);
     for (const auto& view : views_.all())
@@ -89,21 +87,13 @@ void WindowView::syncFocus() {
     }
 }
 
-void WindowView::retire() {
-    retired_ = true;
-    for (const auto& view : views_.all())
-        view->detach();
-    View::retire();
-}
-
 void WindowView::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!retired_)
-        session_.act([this] { session_.program().close(window_); });
+    session_.act([this] { session_.program().close(window_); });
 }
 
 bool WindowView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn && !retired_)
+    if (event->type() == QEvent::FocusIn)
         focused(watched, static_cast<QFocusEvent*>(event)->reason());
     return QWidget::eventFilter(watched, event);
 }

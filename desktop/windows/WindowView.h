@@ -17,7 +17,6 @@ public:
 
     QWidget& widget() override { return *this; }
     void sync() override;
-    void retire() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -42,7 +41,6 @@ private:
     Window& window_;
     ViewSet views_;
     std::vector<Focusable> focusChain_;
-    bool retired_ = false;
 };
 
 } // namespace caudalera

@@ -54,7 +54,7 @@ void frmPadre::unload() {
 frmDocumento& frmPadre::newDocument() {
     ++documentsMade_;
     documents_.push_back(
-        std::make_unique<frmDocumento>("Documento " + textoPlano(long{documentsMade_})));
+        std::make_shared<frmDocumento>("Documento " + textoPlano(long{documentsMade_})));
     activated_.push_back(documents_.back().get());
     return *activated_.back();
 }

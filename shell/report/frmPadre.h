@@ -39,7 +39,8 @@ public:
     };
     Place place;
 
-    const std::vector<std::unique_ptr<frmDocumento>>& documents() const { return documents_; }
+    /// Who shows one shares it, as with windows.
+    const std::vector<std::shared_ptr<frmDocumento>>& documents() const { return documents_; }
     /// nullptr if there is none.
     frmDocumento* active() const { return activated_.empty() ? nullptr : activated_.back(); }
     void activate(frmDocumento& document);
@@ -63,7 +64,7 @@ private:
     /// Empty if it was cancelled.
     std::string elegirArchivo(FileDialog::Kind kind, const char* title, const char* filter) const;
 
-    std::vector<std::unique_ptr<frmDocumento>> documents_;
+    std::vector<std::shared_ptr<frmDocumento>> documents_;
     /// The same documents, the one that was activated last at the end.
     std::vector<frmDocumento*> activated_;
     /// Documents made so far, for their names.

@@ -39,10 +39,13 @@ struct PrintDialog {
 
 /// How the program ended.
 struct Ending {
-    enum class Reason { exit, fatal };
+    /// A person's command, a run-time failure that nothing caught, a fault of the program itself.
+    enum class Reason { exit, fatal, fault };
     Reason reason = Reason::exit;
     /// Number of the run-time failure that ended it.
     int number = 0;
+    /// The fault's own words; may be empty.
+    std::string what;
 };
 
 /// The only door outward. Its calls are synchronous: they return when the user has answered.
@@ -77,7 +80,7 @@ public:
     virtual FixedFont reportFont() = 0;
     /// What masks write for their point.
     virtual std::string decimalSeparator() = 0;
-    /// Called once, when the program has ended; tells a fatal failure to the user.
+    /// Called once, when the program has ended; tells a fatal failure and a fault to the user.
     virtual void endProgram(const Ending& ending) = 0;
 };
 

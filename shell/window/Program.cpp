@@ -1,8 +1,25 @@
 #include "shell/window/Program.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace caudalera {
+
+namespace {
+
+/// Counts how deep acts are nested, also where one is left by an exception.
+class Nesting {
+public:
+    explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
+    ~Nesting() { --depth_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+private:
+    int& depth_;
+};
+
+} // namespace
 
 Program::~Program() = default;
 
@@ -27,35 +44,39 @@ Window* Program::find(std::string_view name) const {
 void Program::act(const std::function<void()>& handler) {
     if (ended_)
         return;
-    ++depth_;
     try {
+        const Nesting nesting(depth_);
         handler();
     } catch (const RuntimeFailure& failure) {
         if (!ended_)
-            ended_ = Ending{Ending::Reason::fatal, failure.number()};
-    } catch (...) {
-        --depth_;
-        throw;
+            ended_ = Ending{Ending::Reason::fatal, failure.number(), {}};
     }
-    --depth_;
     if (depth_ == 0)
         finish();
+}
+
+void Program::actOn(const Window& window, const std::function<void()>& handler) {
+    if (window.loaded())
+        act(handler);
 }
 
 void Program::finish() {
     unloaded_.clear();
     if (windows_.empty() && !ended_)
         ended_ = Ending{};
-    if (ended_ && !told_) {
-        told_ = true;
+    if (ended_)
+        tellEnding();
+}
+
+void Program::tellEnding() {
+    if (!std::exchange(told_, true))
         platform_.endProgram(*ended_);
-    }
 }
 
 void Program::click(Control& control) {
     if (!control.enabled)
         return;
-    act([&] {
+    actOn(control.window(), [&] {
         Window& window = control.window();
         if (auto* button = dynamic_cast<Button*>(&control)) {
             window.setFocus(control);
@@ -77,7 +98,7 @@ void Program::click(Control& control) {
 void Program::actOnText(TextBox& box, const std::function<void()>& handler) {
     if (!box.enabled)
         return;
-    act([&] {
+    actOn(box.window(), [&] {
         box.window().setFocus(box);
         handler();
     });
@@ -100,20 +121,20 @@ void Program::editText(TextBox& box, std::string_view text) {
 }
 
 void Program::select(TextBox& box, std::size_t start, std::size_t length) {
-    act([&] { box.select(start, length); });
+    actOn(box.window(), [&] { box.select(start, length); });
 }
 
 void Program::choose(List& list, const std::string& text) {
     if (!list.enabled)
         return;
-    act([&] {
+    actOn(list.window(), [&] {
         list.window().setFocus(list);
         list.choose(text);
     });
 }
 
 void Program::chooseTab(Tabs& tabs, int index) {
-    act([&] {
+    actOn(tabs.window(), [&] {
         tabs.window().setFocus(tabs);
         tabs.choose(index);
     });
@@ -130,7 +151,7 @@ void Program::key(Control& control, Key key) {
         }
         return;
     }
-    act([&] {
+    actOn(control.window(), [&] {
         if (auto* grid = dynamic_cast<MSFlexGrid*>(&control)) {
             if (grid->editor && grid->editor->visible) {
                 keyOnText(*grid->editor, key);
@@ -189,14 +210,14 @@ void Program::keyOnGrid(MSFlexGrid& grid, Key key) {
 }
 
 void Program::selectCell(MSFlexGrid& grid, long row, long col) {
-    act([&] {
+    actOn(grid.window(), [&] {
         grid.window().setFocus(grid);
         grid.selectCell(row, col);
     });
 }
 
 void Program::rightClick(MSFlexGrid& grid) {
-    act([&] {
+    actOn(grid.window(), [&] {
         grid.window().setFocus(grid);
         if (grid.onRightClick)
             grid.onRightClick();
@@ -204,22 +225,22 @@ void Program::rightClick(MSFlexGrid& grid) {
 }
 
 void Program::scroll(MSFlexGrid& grid, long topRow) {
-    act([&] { grid.setTopRow(topRow); });
+    actOn(grid.window(), [&] { grid.setTopRow(topRow); });
 }
 
 void Program::focus(Control& control) {
-    act([&] { control.window().setFocus(control); });
+    actOn(control.window(), [&] { control.window().setFocus(control); });
 }
 
 void Program::leave(Control& control) {
-    act([&] {
+    actOn(control.window(), [&] {
         if (control.window().focus() == &control)
             control.window().setFocus(nullptr);
     });
 }
 
 void Program::close(Window& window) {
-    act([&] { unload(window); });
+    actOn(window, [&] { unload(window); });
 }
 
 Window* Program::show(std::string_view name) {
@@ -245,6 +266,7 @@ void Program::unload(Window& window) {
         return;
     window.unload();
     window.visible = false;
+    window.loaded_ = false;
     if (front_ == &window)
         front_ = nullptr;
     unloaded_.push_back(std::move(*found));
@@ -253,6 +275,13 @@ void Program::unload(Window& window) {
 
 void Program::end() {
     ended_ = Ending{};
+}
+
+void Program::fail(std::string what) {
+    if (told_)
+        return;
+    ended_ = Ending{Ending::Reason::fault, 0, std::move(what)};
+    tellEnding();
 }
 
 } // namespace caudalera

@@ -23,7 +23,8 @@ struct WindowEntry {
 };
 
 /// The running program: its loaded windows and its globals. A person's act is one call on it; the
-/// handler runs to its end and changes controls. A failure that leaves a handler ends the program.
+/// handler runs to its end and changes controls. A failure that leaves a handler ends the program;
+/// any other exception is a fault of ours and goes on to whoever runs the act.
 class Program {
 public:
     /// `opens` are the windows that it can open, the main window "frmCaudalera" among them; they
@@ -40,8 +41,9 @@ public:
     Platform& platform() const { return platform_; }
     Variables variables;
 
-    /// The loaded windows in the order they were loaded.
-    const std::vector<std::unique_ptr<Window>>& windows() const { return windows_; }
+    /// The loaded windows in the order they were loaded. Who shows one shares it, so that it stays
+    /// as long as it is looked at.
+    const std::vector<std::shared_ptr<Window>>& windows() const { return windows_; }
     Window* find(std::string_view name) const;
     const std::optional<Ending>& ended() const { return ended_; }
     /// The window shown last.
@@ -50,7 +52,7 @@ public:
     bool knows(std::string_view name) const { return entryOf(name) != nullptr; }
 
     // What a person does. Events on a control give it the focus first. An event on a control that
-    // is not enabled does nothing.
+    // is not enabled, or whose window is no longer loaded, does nothing.
     void click(Control& control);
     /// Replaces a field's whole text, whatever its filter says.
     void changeText(TextBox& box, const std::string& text);
@@ -83,18 +85,25 @@ public:
     void unload(Window& window);
     /// Ends the program at once: no question, nothing saved.
     void end();
+    /// Ends the program for a fault of its own, which the platform tells at once. `what` are the
+    /// fault's own words, if it has any.
+    void fail(std::string what);
 
 private:
     void actOnText(TextBox& box, const std::function<void()>& handler);
+    /// One event on a window; none once it is unloaded.
+    void actOn(const Window& window, const std::function<void()>& handler);
     static void keyOnGrid(MSFlexGrid& grid, Key key);
     static void keyOnText(TextBox& box, Key key);
     const WindowEntry* entryOf(std::string_view name) const;
     void finish();
+    void tellEnding();
 
     Platform& platform_;
     const std::vector<WindowEntry>& opens_;
-    std::vector<std::unique_ptr<Window>> windows_;
-    std::vector<std::unique_ptr<Window>> unloaded_;
+    std::vector<std::shared_ptr<Window>> windows_;
+    /// What the running event may still stand on.
+    std::vector<std::shared_ptr<Window>> unloaded_;
     Window* front_ = nullptr;
     std::optional<Ending> ended_;
     std::uint64_t showCount_ = 0;

@@ -51,6 +51,9 @@ public:
     /// The command that the view sets off from the others; nullptr if none.
     Button* mainAction = nullptr;
 
+    /// False once it was unloaded; who still holds it then may read it, and nothing else.
+    bool loaded() const { return loaded_; }
+
     Control* focus() const { return focus_; }
     /// The control that had the focus is left, this one gets it; nullptr leaves it with none.
     void setFocus(Control* control);
@@ -69,12 +72,14 @@ protected:
 
 private:
     friend class Control;
+    friend class Program;
     void add(Control& control) { controls_.push_back(&control); }
 
     Program& program_;
     std::string name_;
     std::vector<Control*> controls_;
     Control* focus_ = nullptr;
+    bool loaded_ = true;
 };
 
 /// Runs the steps of a command under its trap: a run-time failure ends them where they stand and

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMenu>
 #include <QPainter>
 #include <QPixmap>
 #include <QPrinter>
@@ -158,6 +159,38 @@ private slots:
         const QRegularExpression picture(
             QStringLiteral("/Width %1\\s+/Height %2").arg(size.width()).arg(size.height()));
         QVERIFY(picture.match(QString::fromLatin1(file.readAll())).hasMatch());
+    }
+
+    void anOpenMenuIsNoDialogsParent() {
+        desktop_->open("frmParamEsta");
+        QPointer<QMenu> menu = new QMenu(&desktop_->view());
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(QStringLiteral("Copiar"));
+        menu->popup(desktop_->view().mapToGlobal(QPoint(10, 10)));
+        QVERIFY(QTest::qWaitForWindowExposed(menu));
+        QApplication::setActiveWindow(menu);
+        QCOMPARE(QApplication::activeWindow(), menu.data());
+        QWidget* parent = nullptr;
+        desktop_->expectBox({"Hecho", "Caudalera", QMessageBox::NoIcon}, [&] {
+            parent = QApplication::activeModalWidget()->parentWidget();
+            // What a click beside it does, while the box stands.
+            if (menu)
+                menu->close();
+        });
+        platform().showMessage({"Hecho", "", Icon::none});
+        QCOMPARE(parent, &desktop_->view());
+        QTRY_VERIFY(!menu);
+    }
+
+    void aHiddenWindowIsNoDialogsParent() {
+        desktop_->open("frmParamEsta");
+        QWidget hidden;
+        QApplication::setActiveWindow(&hidden);
+        QWidget* parent = nullptr;
+        desktop_->expectBox({"Hecho", "Caudalera", QMessageBox::NoIcon},
+                            [&] { parent = QApplication::activeModalWidget()->parentWidget(); });
+        platform().showMessage({"Hecho", "", Icon::none});
+        QCOMPARE(parent, &desktop_->view());
     }
 
     void withoutAPrinterNothingIsPrintedAndNothingSaid() {

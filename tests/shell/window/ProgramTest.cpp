@@ -2,6 +2,8 @@
 #include "shell/report/frmPadre.h"
 #include "tests/support/TestSheet.h"
 
+#include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -166,6 +168,81 @@ TEST_F(ProgramTest, AnActInsideAnActIsTheSameEvent) {
         click("bMenu");
         EXPECT_EQ(hoja->name(), "hojaUno") << "what the running event stands on is kept";
     });
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+}
+
+TEST_F(ProgramTest, AWindowThatIsHeldBeyondItsUnloadingTakesNoMoreActs) {
+    sheet("frmParamEsta");
+    values({"3", "5"});
+    const std::shared_ptr<Window> held = program.windows().back();
+    auto& hoja = dynamic_cast<TestSheet&>(*held);
+    EXPECT_TRUE(held->loaded());
+    click("bMenu");
+    EXPECT_FALSE(held->loaded());
+    hoja.pasos.clear();
+    const auto shown = program.find("frmCaudalera")->shown;
+    const Control* const focus = hoja.focus();
+
+    program.click(hoja.bMenu);
+    program.click(hoja.bLimpiar);
+    program.click(hoja.optB);
+    program.click(hoja.mnuEditEliminar);
+    program.changeText(hoja.txtotro, "7");
+    program.key(hoja.txtotro, {Key::Kind::character, U'7'});
+    program.key(hoja.bMenu, {Key::Kind::enter});
+    program.key(hoja.grdt, {Key::Kind::up});
+    program.choose(hoja.lista, "dos");
+    program.selectCell(hoja.grdt, 1, 1);
+    program.rightClick(hoja.grdt);
+    program.scroll(hoja.grdt, 2);
+    program.focus(hoja.txtotro);
+    program.leave(hoja.grdt);
+    program.close(hoja);
+
+    EXPECT_EQ(hoja.pasos, Names{});
+    EXPECT_EQ(program.find("frmCaudalera")->shown, shown) << "bMenu does not run again";
+    EXPECT_FALSE(hoja.optB.checked());
+    EXPECT_EQ(hoja.txtotro.text(), "");
+    EXPECT_EQ(hoja.lista.text(), "uno");
+    EXPECT_EQ(hoja.grdt.Rows(), 4) << "two values and the append row stand as they were left";
+    EXPECT_EQ(hoja.grdt.Row(), 3);
+    EXPECT_EQ(hoja.focus(), focus);
+    EXPECT_EQ(loaded(), Names{"frmCaudalera"});
+    EXPECT_FALSE(program.ended());
+}
+
+TEST_F(ProgramTest, ADocumentThatIsHeldOutlivesItsClosing) {
+    program.act([&] { program.show("frmPadre"); });
+    frmPadre& padre = *ventanaDeReportes(program);
+    const std::shared_ptr<frmDocumento> held = padre.documents().front();
+    program.act([&] { padre.closeDocument(*held); });
+    EXPECT_EQ(padre.active(), nullptr);
+    EXPECT_EQ(held->caption, "Documento 1");
+    program.act([&] { padre.closeDocument(*held); });
+    EXPECT_TRUE(padre.documents().empty());
+}
+
+TEST_F(ProgramTest, AnExceptionThatIsNoFailureGoesOnAndTheNextActIsAnEventOfItsOwn) {
+    sheet("frmParamEsta");
+    EXPECT_THROW(program.act([] { throw std::bad_alloc(); }), std::bad_alloc);
+    EXPECT_THROW(program.act([&] { program.act([] { throw std::bad_alloc(); }); }), std::bad_alloc);
+    EXPECT_FALSE(program.ended());
+    click("bCalcular");
+    EXPECT_TRUE(fatal(11)) << "the end is told as soon as the act is over";
+}
+
+TEST_F(ProgramTest, AFaultEndsTheProgramAtOnceAndIsToldOnce) {
+    program.act([&] {
+        program.fail("memoria agotada");
+        ASSERT_TRUE(platform.ending);
+        EXPECT_EQ(platform.ending->reason, Ending::Reason::fault);
+        EXPECT_EQ(platform.ending->what, "memoria agotada");
+        platform.ending.reset();
+    });
+    program.fail("otra");
+    EXPECT_FALSE(platform.ending);
+    EXPECT_EQ(program.ended()->what, "memoria agotada");
+    click("mayuacerca");
     EXPECT_EQ(loaded(), Names{"frmCaudalera"});
 }
 
