@@ -172,7 +172,7 @@ TEST_F(ProgramTest, AnActInsideAnActIsTheSameEvent) {
 }
 
 TEST_F(ProgramTest, AWindowThatIsHeldBeyondItsUnloadingTakesNoMoreActs) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     values({"3", "5"});
     const std::shared_ptr<Window> held = program.windows().back();
     auto& hoja = dynamic_cast<TestSheet&>(*held);
@@ -223,7 +223,7 @@ TEST_F(ProgramTest, ADocumentThatIsHeldOutlivesItsClosing) {
 }
 
 TEST_F(ProgramTest, AnExceptionThatIsNoFailureGoesOnAndTheNextActIsAnEventOfItsOwn) {
-    sheet("frmParamEsta");
+    sheet("hojaUno");
     EXPECT_THROW(program.act([] { throw std::bad_alloc(); }), std::bad_alloc);
     EXPECT_THROW(program.act([&] { program.act([] { throw std::bad_alloc(); }); }), std::bad_alloc);
     EXPECT_FALSE(program.ended());
