@@ -81,6 +81,7 @@ TEST_F(PenmanTest, LabelsItsFieldsAndTheirUnits) {
 }
 
 TEST_F(PenmanTest, StartsAtTenDegreesNorthInJanuaryAndEmptyElsewhere) {
+    EXPECT_EQ(focus(), "txtLatitud");
     EXPECT_EQ(text("cobNS"), "N");
     EXPECT_EQ(text("cobMes"), "Enero");
     for (const auto* fields : {&inputs, &results})

@@ -170,6 +170,10 @@ TEST_F(RacionalTest, NumberFieldsTakeDigitsOnePointAndBackspace) {
         EXPECT_EQ(text(name), "12.57");
         enter(name, "-3 pegado");
         EXPECT_EQ(text(name), "-3 pegado");
+        enter(name, "");
+        // The characters beside the digits are a slash and a colon.
+        type(name, "/0123456789:");
+        EXPECT_EQ(text(name), "0123456789");
     }
     click("optRegistros");
     type("grdt", "-a");
