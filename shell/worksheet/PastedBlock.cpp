@@ -104,10 +104,11 @@ PastedBlock::PastedBlock(std::string_view text) {
     // wrong by either.
     const auto unread = [&cells](char decimal) {
         std::ptrdiff_t count = 0;
-        for (const auto& row : cells)
+        for (const auto& row : cells) {
             count += std::count_if(row.begin(), row.end(), [decimal](std::string_view cell) {
                 return numberOf(cell, decimal).empty();
             });
+        }
         return count;
     };
     const bool hasComma = text.find(',') != std::string_view::npos;

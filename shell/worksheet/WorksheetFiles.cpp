@@ -19,9 +19,10 @@ std::vector<float> enSimple(const std::vector<Real>& valores) {
 std::vector<float> Worksheet::registroDe(long i) const {
     std::vector<float> registro;
     registro.reserve(columnas.size());
-    for (const Columna& columna : columnas)
+    for (const Columna& columna : columnas) {
         registro.push_back(
             std::visit([i](const auto* serie) { return toSingle(Real((*serie)[i])); }, columna));
+    }
     return registro;
 }
 
