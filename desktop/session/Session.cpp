@@ -1,5 +1,7 @@
 #include "desktop/session/Session.h"
 
+#include "shell/window/Nesting.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
@@ -9,18 +11,6 @@
 namespace caudalera {
 
 namespace {
-
-/// Counts how deep acts and syncs are nested.
-class Nesting {
-public:
-    explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
-    ~Nesting() { --depth_; }
-    Nesting(const Nesting&) = delete;
-    Nesting& operator=(const Nesting&) = delete;
-
-private:
-    int& depth_;
-};
 
 /// What a person does to a widget, the keyboard that comes to it included.
 bool isInput(const QEvent& event) {

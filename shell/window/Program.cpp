@@ -1,25 +1,11 @@
 #include "shell/window/Program.h"
 
+#include "shell/window/Nesting.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace caudalera {
-
-namespace {
-
-/// Counts how deep acts are nested, also where one is left by an exception.
-class Nesting {
-public:
-    explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
-    ~Nesting() { --depth_; }
-    Nesting(const Nesting&) = delete;
-    Nesting& operator=(const Nesting&) = delete;
-
-private:
-    int& depth_;
-};
-
-} // namespace
 
 Program::~Program() = default;
 
