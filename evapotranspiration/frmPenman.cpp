@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace caudalera {
 
@@ -29,8 +30,12 @@ frmPenman::frmPenman(Program& program)
 
 void frmPenman::disponer() {
     using namespace layout;
-    for (TextBox* campo : resultados())
-        campo->result = true;
+    registrarEntradas(
+        {&txtLatitud, &txth, &txtT, &txtHRmed, &txtHRmax, &txtUz, &txtHz, &txtRVdVn, &txtnp});
+    registrarResultados({&txtRa,  &txtN,         &txtRnpNg,     &txtFhv, &txtU2,  &txtea,
+                         &txted,  &txteaed,      &txtw,         &txt1w,  &txtfu,  &txtft,
+                         &txtfed, &txtfnN,       &txtRn1,       &txtRs,  &txtRns, &txtRn,
+                         &txtC,   &txtRadiacion, &txtAdveccion, &txtETo});
     const Layout datos =
         fields({Layout::FieldLine(txtLatitud.label(), {&txtLatitud, &cobNS}, txtLatitud.unit()),
                 txth, cobMes, txtT, txtHRmed, txtHRmax, txtUz, txtHz, txtRVdVn, txtnp});
@@ -44,38 +49,23 @@ void frmPenman::disponer() {
     });
 }
 
-std::vector<TextBox*> frmPenman::entradas() {
-    return {&txtLatitud, &txth, &txtT, &txtHRmed, &txtHRmax, &txtUz, &txtHz, &txtRVdVn, &txtnp};
-}
-
-std::vector<TextBox*> frmPenman::resultados() {
-    return {&txtRa,  &txtN,  &txtRnpNg, &txtFhv,       &txtU2,        &txtea,  &txted,  &txteaed,
-            &txtw,   &txt1w, &txtfu,    &txtft,        &txtfed,       &txtfnN, &txtRn1, &txtRs,
-            &txtRns, &txtRn, &txtC,     &txtRadiacion, &txtAdveccion, &txtETo};
-}
-
 void frmPenman::load() {
     txtLatitud.setText(latitudInicial);
     setFocus(txtLatitud);
 }
 
 void frmPenman::limpiar() {
-    for (TextBox* campo : entradas())
-        campo->setText({});
-    for (TextBox* campo : resultados())
-        campo->setText({});
+    vaciarCampos();
     cobNS.setText(hemisferioInicial);
     cobMes.setText(mesInicial);
     setFocus(txtLatitud);
 }
 
 std::optional<Real> frmPenman::leer(TextBox& campo, const char* magnitud) {
-    if (!campo.text().empty())
-        return Val(campo.text());
-    mensaje(std::string("Ingresar un valor adecuado para ") + magnitud, "Mensaje de error",
-            Icon::information);
-    setFocus(campo);
-    return std::nullopt;
+    if (!exigir(campo, {std::string("Ingresar un valor adecuado para ") + magnitud,
+                        "Mensaje de error", Icon::information}))
+        return std::nullopt;
+    return Val(campo.text());
 }
 
 DatosPenman frmPenman::leerDatos() {

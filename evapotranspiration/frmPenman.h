@@ -5,8 +5,6 @@
 #include "shell/worksheet/CalculationWindow.h"
 
 #include <optional>
-#include <utility>
-#include <vector>
 
 namespace caudalera {
 
@@ -64,8 +62,6 @@ protected:
 
 private:
     void disponer();
-    std::vector<TextBox*> entradas();
-    std::vector<TextBox*> resultados();
     /// The field's value. An empty field has a message and gets the focus, and gives none.
     std::optional<Real> leer(TextBox& campo, const char* magnitud);
     DatosPenman leerDatos();

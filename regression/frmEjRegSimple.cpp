@@ -98,8 +98,7 @@ void frmEjRegSimple::calcular() {
 
 void frmEjRegSimple::ajustar() {
     leerCuadricula();
-    if (n <= 1) {
-        mensaje(mensajeAjusteDosPuntos, "Error", Icon::error);
+    if (!hayPuntos(n, {mensajeAjusteDosPuntos, "Error", Icon::error})) {
         setFocus(grdt);
         calculado_ = true;
         return;
@@ -140,15 +139,10 @@ std::string frmEjRegSimple::textoEcuacion(Ecuacion ecuacion) const {
 }
 
 void frmEjRegSimple::evaluar(Ecuacion ecuacion) {
-    if (!calculado_) {
-        mensaje("Antes de hallar valor de Y, efectuar los cálculos de correlación");
+    if (!hayCalculo(calculado_,
+                    {"Antes de hallar valor de Y, efectuar los cálculos de correlación"}) ||
+        !exigir(txtvxx, {"Ingresar un valor adecuado para X"}))
         return;
-    }
-    if (txtvxx.text().empty()) {
-        mensaje("Ingresar un valor adecuado para X");
-        setFocus(txtvxx);
-        return;
-    }
     lblCalculoY.caption = std::string("Ecuación ") + nombresEcuaciones[ecuacion];
     txtvyy.setText(formatear(valorDeY(ecuacion, Val(txtvxx.text())), mascaraY));
 }

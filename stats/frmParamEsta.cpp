@@ -90,11 +90,9 @@ void frmParamEsta::ordenar() {
 
 void frmParamEsta::calcular() {
     leerCuadricula();
-    if (n <= 1) {
-        mensaje("Para el cálculo de los parámetros se requieren por lo menos dos datos", "Error",
-                Icon::error);
+    if (!hayPuntos(n, {"Para el cálculo de los parámetros se requieren por lo menos dos datos",
+                       "Error", Icon::error}))
         return;
-    }
     const SumasCentrales sumas = sumasCentrales(serieX.primeros(n));
     const ParametrosComunes muestrales = parametrosMuestrales(sumas);
     const ParametrosComunes poblacionales = parametrosPoblacionales(sumas);

@@ -16,7 +16,7 @@ enum class Icon { none, information, error };
 /// A message box with one OK button. The empty title stands for the program's own.
 struct Message {
     std::string text;
-    std::string title;
+    std::string title{};
     Icon icon = Icon::none;
 
     bool operator==(const Message&) const = default;

@@ -57,11 +57,16 @@ void CalculationWindow::encadenar(const std::vector<Control*>& controles) {
     }
 }
 
+void CalculationWindow::rechazar(TextBox& campo, const Message& motivo) {
+    mensaje(motivo);
+    campo.setText({});
+    setFocus(campo);
+}
+
 bool CalculationWindow::exigir(TextBox& campo, const Message& siVacio) {
     if (!campo.text().empty())
         return true;
-    mensaje(siVacio);
-    setFocus(campo);
+    rechazar(campo, siVacio);
     return false;
 }
 

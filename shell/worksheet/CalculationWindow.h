@@ -37,10 +37,12 @@ protected:
 
     /// ENTER takes the focus from each of these to the next.
     void encadenar(const std::vector<Control*>& controles);
-    /// Whether a field holds a text; if not, the message is shown and the field gets the focus.
+    /// Refuses what a field holds: the message, and the field emptied and with the focus.
+    void rechazar(TextBox& campo, const Message& motivo);
+    /// Whether a field holds a text; refused if not.
     bool exigir(TextBox& campo, const Message& siVacio);
-    /// The two gates in front of a chart: false, behind its message, if there is no calculation to
-    /// draw, or fewer than two points.
+    /// The two gates in front of a chart, and of other commands that need the same: false, behind
+    /// the message, if there is no calculation to go by, or fewer than two points.
     bool hayCalculo(bool calculado, const Message& siNo) const;
     bool hayPuntos(long puntos, const Message& siNo) const;
 
