@@ -64,16 +64,10 @@ void frmEjRegSimple::reiniciarResultados() {
 }
 
 void frmEjRegSimple::borrarResultados() {
-    reiniciarResultados();
-    vaciarCampos();
+    Worksheet::borrarResultados();
     lblCalculoY.caption = rotuloEcuacion;
     calculado_ = false;
     Graph1.clear();
-}
-
-void frmEjRegSimple::limpiar() {
-    reiniciarCuadricula();
-    borrarResultados();
 }
 
 void frmEjRegSimple::trasAccesar() {

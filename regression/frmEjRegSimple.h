@@ -33,9 +33,9 @@ public:
 
 protected:
     void calcular() override;
-    void limpiar() override;
     void escribirReporte(ReportWriter& reporte) override;
     void reiniciarResultados() override;
+    void borrarResultados() override;
     // Here the results go once the file is loaded, so that a load that fails leaves them.
     void antesDeAccesar() override {}
     void trasAccesar() override;
@@ -56,7 +56,6 @@ private:
     Real valorDeY(Ecuacion ecuacion, Real x) const;
     void graficar();
     void limpiarDatos();
-    void borrarResultados();
 
     static constexpr long capacidad = 250;
     Serie X_{capacidad};

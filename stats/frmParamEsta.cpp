@@ -52,14 +52,8 @@ void frmParamEsta::reiniciarResultados() {
 }
 
 void frmParamEsta::borrarResultados() {
-    reiniciarResultados();
-    vaciarCampos();
+    Worksheet::borrarResultados();
     mostrarOrdenados(false);
-}
-
-void frmParamEsta::limpiar() {
-    reiniciarCuadricula();
-    borrarResultados();
 }
 
 void frmParamEsta::reiniciarOrdenados(long filas) {

@@ -25,14 +25,12 @@ public:
 
 protected:
     void calcular() override;
-    void limpiar() override;
     void escribirReporte(ReportWriter& reporte) override;
     void reiniciarResultados() override;
-    void antesDeAccesar() override { borrarResultados(); }
+    void borrarResultados() override;
 
 private:
     void disponer();
-    void borrarResultados();
     void reiniciarOrdenados(long filas);
     void ordenar();
     void mostrarOrdenados(bool visibles);

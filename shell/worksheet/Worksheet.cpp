@@ -79,6 +79,16 @@ void Worksheet::reiniciarCuadricula() {
     marcarFilaDeAlta(marcadorOtro);
 }
 
+void Worksheet::borrarResultados() {
+    reiniciarResultados();
+    vaciarCampos();
+}
+
+void Worksheet::limpiar() {
+    reiniciarCuadricula();
+    borrarResultados();
+}
+
 std::string Worksheet::etiquetaFila(long fila) const {
     return Str(fila);
 }

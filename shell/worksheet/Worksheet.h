@@ -59,8 +59,13 @@ protected:
     void renumerarFilas();
     /// A row was completed at the append row.
     virtual void trasAgregarFila() {}
+    /// Takes the results of an earlier calculation away: the result grids and the registered
+    /// fields; a window with more of them adds the rest.
+    virtual void borrarResultados();
+    /// The data and the results.
+    void limpiar() override;
     /// What a load resets before the dialog opens, and what once the file is in the grid.
-    virtual void antesDeAccesar() { reiniciarResultados(); }
+    virtual void antesDeAccesar() { borrarResultados(); }
     virtual void trasAccesar() {}
     /// The record behind those of the rows, in the layouts that have one.
     virtual std::vector<Real> ultimoRegistro() const { return {}; }
