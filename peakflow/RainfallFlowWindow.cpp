@@ -1,7 +1,10 @@
 #include "peakflow/RainfallFlowWindow.h"
 
 #include "shell/text/Text.h"
+#include "shell/worksheet/PastedBlock.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace caudalera {
@@ -13,11 +16,18 @@ enum Pestana { pestanaQ, pestanaC, pestanaI };
 constexpr long filasDeGrupos = 50;
 constexpr long reglaDeResultados = 90;
 
+/// Digits with at most one decimal point, no digit at all included: it is being typed.
+bool esNumeroSinSigno(std::string_view texto) {
+    return texto.find_first_not_of("0123456789.") == std::string_view::npos &&
+           std::count(texto.begin(), texto.end(), '.') <= 1;
+}
+
 } // namespace
 
 RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::string text,
                                        RainfallFlowTexts textos)
-    : IntensityWorksheet(program, std::move(name), std::move(text)), textos_(std::move(textos)) {
+    : Worksheet(program, std::move(name), std::move(text), "Trío", layoutTriosTDI("I máx (mm/hr)")),
+      textos_(std::move(textos)) {
     lblMensajeI.wraps = true;
     lblZonasNoUrbanas.heading = true;
     for (TextBox* resultado : {&txtqmax, &txtgrupo, &txtCponderado, &txtatotal})
@@ -30,6 +40,13 @@ RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::
     SSTab1.onClick = [this] { elegirPestana(); };
     bAgregar.onClick = [this] { agregar(); };
     bCponderado.onClick = [this] { ponderar(); };
+}
+
+void RainfallFlowWindow::soloNumeros(const std::vector<TextBox*>& campos) {
+    for (TextBox* campo : campos) {
+        campo->acceptable = esNumeroSinSigno;
+        campo->asPasted = numberAsPasted;
+    }
 }
 
 void RainfallFlowWindow::load() {
@@ -52,7 +69,7 @@ Layout RainfallFlowWindow::disposicion(std::vector<Layout::FieldLine> lineasQ,
                          row({buttons({&bCponderado}),
                               frame(fraResultadosC, fields({txtCponderado, txtatotal}))})})
                      .stretched()}),
-            disposicionI(),
+            intensidad.disposicion(),
         });
 }
 
@@ -65,7 +82,7 @@ void RainfallFlowWindow::elegirPestana() {
         setFocus(txtac);
         break;
     default:
-        entrarEnI();
+        intensidad.entrar();
     }
 }
 
@@ -86,7 +103,7 @@ void RainfallFlowWindow::numerarGrupo() {
 
 void RainfallFlowWindow::limpiar() {
     if (SSTab1.tab() == pestanaI) {
-        limpiarI();
+        intensidad.limpiar();
         return;
     }
     if (SSTab1.tab() == pestanaC) {
@@ -172,7 +189,7 @@ void RainfallFlowWindow::escribirReporte(ReportWriter& reporte) {
     reporte << blancos(25) << "C ponderado:" << txtCponderado.text() << LF;
     reporte << blancos(27) << "Area total:" << txtatotal.text() << " has" << LF;
     reporte << LF << "Cálculo del I máxima:" << LF << LF;
-    escribirReporteI(reporte);
+    intensidad.escribirReporte(reporte);
     reporte << "Resultados de los cálculos:" << LF;
     reporte.regla(reglaDeResultados);
     escribirDatosPrevios(reporte);

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "peakflow/IntensityWorksheet.h"
+#include "peakflow/IntensityTab.h"
 #include "shell/numbers/Integer16.h"
+#include "shell/worksheet/Worksheet.h"
 
 #include <array>
 #include <string>
@@ -32,7 +33,7 @@ struct RainfallFlowTexts {
 /// A flow from a coefficient C, an area and a rainfall intensity I, in three tabs: the first
 /// computes Q, the second weighs C from groups of areas and the third finds I; these two hand
 /// their results to the first.
-class RainfallFlowWindow : public IntensityWorksheet {
+class RainfallFlowWindow : public Worksheet {
 public:
     RainfallFlowWindow(Program& program, std::string name, std::string caption,
                        RainfallFlowTexts textos);
@@ -42,6 +43,7 @@ private:
     RainfallFlowTexts textos_;
 
 public:
+    IntensityTab intensidad{*this};
     Tabs SSTab1{*this, "SSTab1", {"Cálculo de Q", "Cálculo de C", "Cálculo de I"}};
 
     TextBox txtcq{*this, "txtcq", textos_.rotuloC};
@@ -67,6 +69,9 @@ public:
     Frame fraResultadosC{*this, "fraResultadosC", "Resultados:"};
     TextBox txtCponderado{*this, "txtCponderado", "C ponderado:"};
     TextBox txtatotal{*this, "txtatotal", "Área total:", "has"};
+
+    /// Whether an intensity was found since the start or the last load of a file.
+    bool calculado() const { return intensidad.calculado(); }
 
     void load() override;
 
@@ -103,10 +108,16 @@ protected:
     void calcular() override;
     void limpiar() override;
     void reiniciarResultados() override;
-    void recibirIntensidad(const std::string& texto) override { txtiq.setText(texto); }
+    void antesDeAccesar() override { intensidad.antesDeAccesar(); }
     void escribirReporte(ReportWriter& reporte) override;
 
+    /// Lets the user bring in digits and one decimal point alone.
+    static void soloNumeros(const std::vector<TextBox*>& campos);
+
 private:
+    // A part of this window, with its grid and messages at hand.
+    friend class IntensityTab;
+
     void elegirPestana();
     void reiniciarGrupos();
     void numerarGrupo();

@@ -57,11 +57,7 @@ Real frmQmaxRacional::caudal() const {
 }
 
 bool frmQmaxRacional::grupoCompleto() {
-    if (!txtac.text().empty())
-        return true;
-    mensaje("Ingresar dato en forma adecuada");
-    setFocus(txtac);
-    return false;
+    return exigir(txtac, {"Ingresar dato en forma adecuada"});
 }
 
 RainfallFlowWindow::Grupo frmQmaxRacional::describirGrupo() const {

@@ -1,11 +1,10 @@
-#include "peakflow/IntensityWorksheet.h"
+#include "peakflow/IntensityTab.h"
 
+#include "peakflow/RainfallFlowWindow.h"
 #include "peakflow/tiempoConcentracion.h"
 #include "regression/gaussJordan.h"
 #include "shell/text/Text.h"
-#include "shell/worksheet/PastedBlock.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace caudalera {
@@ -16,52 +15,34 @@ constexpr const char* tituloError = "Error";
 constexpr const char* mascaraEcuacion = "#####0.##00";
 constexpr float periodoMaximo = 200;
 
-/// Digits with at most one decimal point, no digit at all included: it is being typed.
-bool esNumeroSinSigno(std::string_view texto) {
-    return texto.find_first_not_of("0123456789.") == std::string_view::npos &&
-           std::count(texto.begin(), texto.end(), '.') <= 1;
-}
-
 } // namespace
 
-IntensityWorksheet::IntensityWorksheet(Program& program, std::string name, std::string text)
-    : Worksheet(program, std::move(name), std::move(text), "Trío",
-                layoutTriosTDI("I máx (mm/hr)")) {
-    columnas = {&T_, &D_, &Imax_};
-    lbleti1i.heading = true;
-    lbleti2i.heading = true;
+IntensityTab::IntensityTab(RainfallFlowWindow& window) : ventana_(window), hoja_(window) {
+    hoja_.columnas = {&T_, &D_, &Imax_};
     txtDuracionAdi.visible = false;
     lblDuracionAdi.visible = false;
     optDuracionAdiNo.preset(true);
     fraProvincias.visible = false;
-    grdt.visible = false;
-    mostrarIngreso(false);
+    hoja_.grdt.visible = false;
+    ingreso.mostrar(false);
     mostrarEcuacion(false);
     txttci.result = txtImaxi.result = txtecuacioni.result = true;
     txtecuacioni.width = 40;
 
-    soloNumeros({&txtLi, &txtHi, &txtTi, &txtDuracionAdi, &txttci, &txtImaxi});
-    txtLi.onEnter = [this] { setFocus(txtHi); };
-    txtHi.onEnter = [this] { setFocus(txtTi); };
+    RainfallFlowWindow::soloNumeros({&txtLi, &txtHi, &txtTi, &txtDuracionAdi, &txttci, &txtImaxi});
+    hoja_.encadenar({&txtLi, &txtHi, &txtTi});
     optDuracionAdiSi.onClick = [this] {
         txtDuracionAdi.setText({});
         mostrarDuracion(true);
-        setFocus(txtDuracionAdi);
+        ventana_.setFocus(txtDuracionAdi);
     };
     optDuracionAdiNo.onClick = [this] { mostrarDuracion(false); };
     optProvincias.onClick = [this] { elegirProvincias(); };
     optRegistros.onClick = [this] { elegirRegistros(); };
-    bcalcularI.onClick = [this] { calcularI(); };
+    bcalcularI.onClick = [this] { calcular(); };
 }
 
-void IntensityWorksheet::soloNumeros(const std::vector<TextBox*>& campos) {
-    for (TextBox* campo : campos) {
-        campo->acceptable = esNumeroSinSigno;
-        campo->asPasted = numberAsPasted;
-    }
-}
-
-Layout IntensityWorksheet::disposicionI() {
+Layout IntensityTab::disposicion() {
     using namespace caudalera::layout;
     return row({
         column({
@@ -72,8 +53,7 @@ Layout IntensityWorksheet::disposicionI() {
             frame(fraProvincias, list({&optSanJose, &optPuntarenas, &optCartago, &optLimon,
                                        &optLiberia, &optAlajuela})),
         }),
-        column({list({&lbleti1i}), control(grdt).stretched(), list({&lbleti2i, &lbleti3i})})
-            .stretched(),
+        ingreso.columna(hoja_.grdt).stretched(),
         column({
             buttons({&bcalcularI}),
             frame(fraResultadosI,
@@ -82,65 +62,55 @@ Layout IntensityWorksheet::disposicionI() {
     });
 }
 
-void IntensityWorksheet::mostrarDuracion(bool conocida) {
+void IntensityTab::mostrarDuracion(bool conocida) {
     txtDuracionAdi.visible = conocida;
     lblDuracionAdi.visible = conocida;
 }
 
-void IntensityWorksheet::mostrarIngreso(bool si) {
-    for (Label* rotulo : {&lbleti1i, &lbleti2i, &lbleti3i})
-        rotulo->visible = si;
-}
-
-void IntensityWorksheet::mostrarEcuacion(bool si) {
+void IntensityTab::mostrarEcuacion(bool si) {
     lblecuacioni.visible = si;
     txtecuacioni.visible = si;
 }
 
-void IntensityWorksheet::elegirProvincias() {
+void IntensityTab::elegirProvincias() {
     fraProvincias.visible = true;
-    mostrarIngreso(false);
+    ingreso.mostrar(false);
     mostrarEcuacion(false);
-    reiniciarCuadricula();
-    grdt.visible = false;
+    hoja_.reiniciarCuadricula();
+    hoja_.grdt.visible = false;
 }
 
-void IntensityWorksheet::elegirRegistros() {
+void IntensityTab::elegirRegistros() {
     fraProvincias.visible = false;
     provincias.clear();
-    grdt.visible = true;
-    reiniciarCuadricula();
-    mostrarIngreso(true);
+    hoja_.grdt.visible = true;
+    hoja_.reiniciarCuadricula();
+    ingreso.mostrar(true);
 }
 
-void IntensityWorksheet::entrarEnI() {
-    setFocus(txtLi);
+void IntensityTab::entrar() {
+    ventana_.setFocus(txtLi);
     optDuracionAdiNo.set();
 }
 
-void IntensityWorksheet::limpiarI() {
+void IntensityTab::limpiar() {
     optDuracionAdiNo.set();
     if (optRegistros.checked()) {
-        reiniciarCuadricula();
+        hoja_.reiniciarCuadricula();
         mostrarEcuacion(false);
     }
     for (TextBox* campo : {&txtLi, &txtHi, &txtTi, &txttci, &txtImaxi})
         campo->setText({});
-    setFocus(txtLi);
+    ventana_.setFocus(txtLi);
 }
 
-void IntensityWorksheet::antesDeAccesar() {
+void IntensityTab::antesDeAccesar() {
     txtecuacioni.setText({});
     mostrarEcuacion(false);
     calculado_ = false;
 }
 
-void IntensityWorksheet::rechazar(TextBox& campo, const char* texto) {
-    mensaje(texto, tituloError);
-    setFocus(campo);
-}
-
-void IntensityWorksheet::calcularI() {
+void IntensityTab::calcular() {
     conTrampa(
         [this] {
             if (!tomarDuracion())
@@ -150,63 +120,54 @@ void IntensityWorksheet::calcularI() {
                 return;
             if (optRegistros.checked() && !intensidadDeRegistros())
                 return;
-            txttci.setText(formatear(duracion_, "0.#0"));
-            txtImaxi.setText(formatear(intensidad_, "0.#0"));
-            recibirIntensidad(txtImaxi.text());
+            txttci.setText(hoja_.formatear(duracion_, "0.#0"));
+            txtImaxi.setText(hoja_.formatear(intensidad_, "0.#0"));
+            hoja_.txtiq.setText(txtImaxi.text());
             calculado_ = true;
         },
         [this](const RuntimeFailure&) {
             if (optRegistros.checked()) {
-                mensaje("Ingresó valores para T, D ó Imáx iguales a 0 ó negativos. Estos valores "
-                        "no permiten la correlación potencial. ¡Hacer la corrección "
-                        "correspondiente!");
+                hoja_.mensaje(
+                    "Ingresó valores para T, D ó Imáx iguales a 0 ó negativos. Estos valores "
+                    "no permiten la correlación potencial. ¡Hacer la corrección "
+                    "correspondiente!");
             }
         });
 }
 
-bool IntensityWorksheet::tomarDuracion() {
+bool IntensityTab::tomarDuracion() {
     if (!optDuracionAdiSi.checked()) {
         duracion_ = duracionDeConcentracion();
         return true;
     }
-    if (txtDuracionAdi.text().empty()) {
-        rechazar(txtDuracionAdi, "Ingresar un valor adecuado para la duración D ó tc");
+    if (!hoja_.exigir(txtDuracionAdi,
+                      {"Ingresar un valor adecuado para la duración D ó tc", tituloError}))
         return false;
-    }
     duracion_ = Val(txtDuracionAdi.text());
     return true;
 }
 
-Real IntensityWorksheet::duracionDeConcentracion() {
-    if (txtLi.text().empty()) {
-        rechazar(txtLi, "Ingresar un valor adecuado para la distancia L");
+Real IntensityTab::duracionDeConcentracion() {
+    if (!hoja_.exigir(txtLi, {"Ingresar un valor adecuado para la distancia L", tituloError}))
         return 0;
-    }
-    if (txtHi.text().empty()) {
-        rechazar(txtHi, "Ingresar un valor adecuado para el desnivel H");
+    if (!hoja_.exigir(txtHi, {"Ingresar un valor adecuado para el desnivel H", tituloError}))
         return 0;
-    }
     const float L = toSingle(Val(txtLi.text()));
     const float H = toSingle(Val(txtHi.text()));
     if (H == 0) {
-        mensaje("El valor para el desnivel H no puede ser 0", tituloError);
-        txtHi.setText({});
-        setFocus(txtHi);
+        hoja_.rechazar(txtHi, {"El valor para el desnivel H no puede ser 0", tituloError});
         return 0;
     }
     return tiempoConcentracion(L, H);
 }
 
-void IntensityWorksheet::tomarPeriodo() {
-    if (txtTi.text().empty()) {
-        rechazar(txtTi, "Ingresar un valor adecuado para el período de retorno T");
-        periodo_ = 0;
-        return;
-    }
-    periodo_ = toSingle(Val(txtTi.text()));
+void IntensityTab::tomarPeriodo() {
+    const bool hay = hoja_.exigir(
+        txtTi, {"Ingresar un valor adecuado para el período de retorno T", tituloError});
+    periodo_ = hay ? toSingle(Val(txtTi.text())) : 0;
 }
 
-std::optional<Provincia> IntensityWorksheet::provinciaElegida() const {
+std::optional<Provincia> IntensityTab::provinciaElegida() const {
     const std::pair<const Option*, Provincia> todas[] = {
         {&optSanJose, Provincia::sanJose}, {&optPuntarenas, Provincia::puntarenas},
         {&optCartago, Provincia::cartago}, {&optLimon, Provincia::limon},
@@ -219,11 +180,10 @@ std::optional<Provincia> IntensityWorksheet::provinciaElegida() const {
     return std::nullopt;
 }
 
-bool IntensityWorksheet::intensidadDeProvincia() {
+bool IntensityTab::intensidadDeProvincia() {
     if (periodo_ > periodoMaximo) {
-        mensaje("Para este método el período de retorno T no puede ser mayor de 200", tituloError);
-        txtTi.setText({});
-        setFocus(txtTi);
+        hoja_.rechazar(txtTi, {"Para este método el período de retorno T no puede ser mayor de 200",
+                               tituloError});
         return false;
     }
     // With no province set the intensity stays as it was.
@@ -232,42 +192,42 @@ bool IntensityWorksheet::intensidadDeProvincia() {
     return true;
 }
 
-bool IntensityWorksheet::intensidadDeRegistros() {
-    leerCuadricula();
-    if (n < minimoTrios) {
-        mensaje(mensajeCuatroTrios, {}, Icon::error);
-        grdt.setCol(1);
-        grdt.setRow(filaDeAlta());
-        setFocus(grdt);
+bool IntensityTab::intensidadDeRegistros() {
+    hoja_.leerCuadricula();
+    if (hoja_.n < minimoTrios) {
+        hoja_.mensaje(mensajeCuatroTrios, {}, Icon::error);
+        hoja_.grdt.setCol(1);
+        hoja_.grdt.setRow(hoja_.filaDeAlta());
+        ventana_.setFocus(hoja_.grdt);
         return true;
     }
     std::vector<TrioIntensidad> trios;
-    for (long i = 1; i <= n; ++i)
+    for (long i = 1; i <= hoja_.n; ++i)
         trios.push_back({T_[i], D_[i], Imax_[i]});
     const auto ajuste = ajustePotencial(trios);
     if (!ajuste) {
-        mensaje(mensajeSistemaSingular, {}, Icon::error);
+        hoja_.mensaje(mensajeSistemaSingular, {}, Icon::error);
         return false;
     }
     intensidad_ = ajuste->intensidad(Real(periodo_), duracion_);
-    txtecuacioni.setText("Imáx = " + formatear(ajuste->K, mascaraEcuacion) + "*T^(" +
-                         formatear(ajuste->m, mascaraEcuacion) + ") *D^(" +
-                         formatear(ajuste->n, mascaraEcuacion) + ")");
+    txtecuacioni.setText("Imáx = " + hoja_.formatear(ajuste->K, mascaraEcuacion) + "*T^(" +
+                         hoja_.formatear(ajuste->m, mascaraEcuacion) + ") *D^(" +
+                         hoja_.formatear(ajuste->n, mascaraEcuacion) + ")");
     mostrarEcuacion(true);
     return true;
 }
 
-void IntensityWorksheet::escribirReporteI(ReportWriter& reporte) const {
+void IntensityTab::escribirReporte(ReportWriter& reporte) const {
     constexpr long guiones = 90;
     constexpr std::string_view LF = ReportWriter::LF;
     constexpr std::string_view TAB = ReportWriter::TAB;
     if (optRegistros.checked()) {
         reporte << "Valores de T, D y Imáx:" << LF;
         reporte.encabezado({" Trío\t\t T (años)\t Duración (min)\t I máx (mm/hr)"}, guiones);
-        for (long fila = 1; fila <= filasDelReporte(); ++fila) {
-            reporte << grdt.TextMatrix(fila, 0);
-            for (long col = 1; col < grdt.Cols(); ++col)
-                reporte << TAB << TAB << grdt.TextMatrix(fila, col);
+        for (long fila = 1; fila <= hoja_.filasDelReporte(); ++fila) {
+            reporte << hoja_.grdt.TextMatrix(fila, 0);
+            for (long col = 1; col < hoja_.grdt.Cols(); ++col)
+                reporte << TAB << TAB << hoja_.grdt.TextMatrix(fila, col);
             reporte << LF;
         }
         reporte.regla(guiones);
