@@ -10,13 +10,6 @@ namespace {
 class DisNormalEvaluate : public DisNormalTest {
 protected:
     void fitFour() { fit({"3", "1", "4", "2"}); }
-    std::vector<Message> error(const std::string& text) {
-        return {{text, "Mensaje de Error", Icon::error}};
-    }
-    std::vector<Message> messagesOf(const std::string& button) {
-        click(button);
-        return messages();
-    }
 };
 
 TEST_F(DisNormalEvaluate, BeforeAnyCalculation) {

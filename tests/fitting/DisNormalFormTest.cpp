@@ -6,17 +6,7 @@
 namespace caudalera::testing {
 namespace {
 
-class DisNormalForm : public DisNormalTest {
-protected:
-    std::string labelOf(const std::string& field) {
-        const Label* label = control<TextBox>(field).label();
-        return label ? label->caption : std::string();
-    }
-    std::string unitOf(const std::string& field) {
-        const Label* unit = control<TextBox>(field).unit();
-        return unit ? unit->caption : std::string();
-    }
-};
+class DisNormalForm : public DisNormalTest {};
 
 TEST_F(DisNormalForm, TextsOfTheWindow) {
     EXPECT_EQ(window("frmDisNormal").caption,
