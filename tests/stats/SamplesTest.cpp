@@ -24,6 +24,18 @@ TEST_F(SamplesTest, TheHarricanaPeaksLoad) {
     expectLoads("harricana_amos.X", valuesOf(samplePath("harricana_amos.csv")));
 }
 
+TEST_F(SamplesTest, TheSugarCreekPeaksLoad) {
+    const auto values = valuesOf(samplePath("sugar_creek_crawfordsville.csv"));
+    ASSERT_EQ(values.size(), 53U);
+    expectLoads("sugar_creek_crawfordsville.X", values);
+}
+
+TEST_F(SamplesTest, TheWhiteRiverPeaksLoad) {
+    const auto values = valuesOf(samplePath("white_river_nora.csv"));
+    ASSERT_EQ(values.size(), 62U);
+    expectLoads("white_river_nora.X", values);
+}
+
 TEST_F(SamplesTest, TheNileVolumesLoad) {
     auto values = valuesOf(samplePath("nilo_asuan.csv"));
     ASSERT_EQ(values.size(), 100U);
