@@ -1,6 +1,8 @@
 #include "app/registry.h"
 
 #include "evapotranspiration/frmPenman.h"
+#include "fitting/frmDisGumbel.h"
+#include "fitting/frmDisLogGumbel.h"
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
@@ -28,6 +30,8 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmParamEsta", create<frmParamEsta>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
+        {"frmDisGumbel", create<frmDisGumbel>},
+        {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmPenman", create<frmPenman>},
     };
