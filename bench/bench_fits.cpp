@@ -2,19 +2,64 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+#include <vector>
+
 namespace caudalera::bench {
 namespace {
 
-/// bCalcular of the normal distribution with the longest series that it takes.
-void calculateNormal(benchmark::State& state) {
-    BenchProgram bench("frmDisNormal", 499);
-    bench.load();
-    for ([[maybe_unused]] auto each : state)
-        bench.program.click(bench.sheet().bCalcular);
-    if (!bench.platform.messages.empty() || bench.program.ended())
-        state.SkipWithError("the calculation failed");
+constexpr std::array distributions = {
+    "frmDisNormal",    "frmDisLogNormal2",  "frmDisLogNormal3", "frmDisGamma2par",
+    "frmDisGamma3par", "frmDisLogPearson3", "frmDisGumbel",     "frmDisLogGumbel",
+};
+
+/// The longest series that a fit takes, in no order: quantiles of a log-Gumbel law, which has a
+/// positive skew in its values and in their logarithms, so that every distribution takes it.
+std::vector<float> floods() {
+    constexpr int n = 499;
+    std::vector<float> values;
+    for (int i = 1; i <= n; ++i) {
+        const double p = static_cast<double>(1 + i * 191 % n) / (n + 1);
+        values.push_back(static_cast<float>(std::exp(5 - 0.3 * std::log(-std::log(p)))));
+    }
+    return values;
 }
-BENCHMARK(calculateNormal)->Unit(benchmark::kMillisecond);
+
+void calculate(benchmark::State& state, const std::string& window) {
+    BenchProgram bench(window, floods());
+    bench.load();
+    bench.measure(state, "bCalcular");
+}
+
+/// The design flow of a fit calculated before.
+void designFlow(benchmark::State& state, const std::string& window) {
+    BenchProgram bench(window, floods());
+    bench.load();
+    bench.program.click(bench.sheet().bCalcular);
+    bench.enter("txtxt", "100");
+    bench.measure(state, "bQ");
+}
+
+bool exists(const std::string& window) {
+    return std::any_of(ventanas().begin(), ventanas().end(),
+                       [&](const WindowEntry& entry) { return entry.name == window; });
+}
+
+/// Both of every distribution that the program has.
+const bool registered = [] {
+    for (const std::string window : distributions) {
+        if (!exists(window))
+            continue;
+        benchmark::RegisterBenchmark(("calculate/" + window).c_str(), calculate, window)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark(("designFlow/" + window).c_str(), designFlow, window)
+            ->Unit(benchmark::kMicrosecond);
+    }
+    return true;
+}();
 
 } // namespace
 } // namespace caudalera::bench
