@@ -36,6 +36,12 @@ protected:
         }
     }
 
+    /// Fits these data in place of those that are there.
+    void refit(const Texts& series) {
+        keepRows(0);
+        fit(series);
+    }
+
     void load(const std::vector<float>& series) {
         writeSingles(file("serie.X"), series);
         platform.answers = {file("serie.X")};
