@@ -3,6 +3,7 @@
 #include "evapotranspiration/frmPenman.h"
 #include "fitting/frmDisGumbel.h"
 #include "fitting/frmDisLogGumbel.h"
+#include "fitting/frmDisLogNormal2.h"
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
@@ -32,6 +33,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
+        {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmPenman", create<frmPenman>},
     };

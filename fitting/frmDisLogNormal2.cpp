@@ -1,0 +1,45 @@
+#include "fitting/frmDisLogNormal2.h"
+
+namespace caudalera {
+
+namespace {
+
+const FitTexts& textosLogNormal2() {
+    static const FitTexts textos = {
+        .distribucion = "logNormal 2 parámetros",
+        .marcoParametros = "Parámetros distribución log-normal:",
+        .tituloParametros = "Parámetros de la distribución logNormal:",
+        .guionesParametros = 60,
+        .encabezados = {"F(Z) Ordinario", "F(Z) Mom Lineal"},
+        .titulosReporte = {"F(Z) Ordinario ", "F(Z) Mom Lineal ", "Delta "},
+        .mascaraPeriodo = "###.0",
+        .mascaraProbabilidad = "###.#0",
+        .excedenciaSinCalculo = "Efectuar cálculos antes de evaluar la probabilidad de excedencia",
+    };
+    return textos;
+}
+
+} // namespace
+
+frmDisLogNormal2::frmDisLogNormal2(Program& program)
+    : FitWindow(program, "frmDisLogNormal2",
+                "Ajuste de una serie de datos a la distribución lognormal de 2 parámetros",
+                textosLogNormal2()) {
+    ordinarios = {{&conOrdinarios.escala, &txtux, "Parámetro de escala (µy)= "},
+                  {&conOrdinarios.forma, &txtSX, "Parámetro de forma (Sy)= "}};
+    lineales = {{&conLineales.escala, &txtmedial, "Parámetro de escala (µyl)= "},
+                {&conLineales.forma, &txtsl, "Parámetro de forma (Syl)= "}};
+    disponer(layout::fields({txtux, txtSX, txtmedial, txtsl}));
+}
+
+bool frmDisLogNormal2::admitirOrdenada() {
+    const auto ordenada = serieOrdenada.primeros(conteoDatos);
+    if (ordenada.empty() || ordenada.front() > 0)
+        return true;
+    mensaje("Para esta distribución, los valores de la serie no pueden ser iguales a 0, "
+            "¡Corregir valores¡",
+            "Mensaje de error", Icon::error);
+    return false;
+}
+
+} // namespace caudalera
