@@ -4,6 +4,7 @@
 #include "fitting/frmDisGumbel.h"
 #include "fitting/frmDisLogGumbel.h"
 #include "fitting/frmDisLogNormal2.h"
+#include "fitting/frmDisLogNormal3.h"
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
@@ -34,6 +35,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
+        {"frmDisLogNormal3", create<frmDisLogNormal3>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmPenman", create<frmPenman>},
     };

@@ -4,6 +4,12 @@
 
 namespace caudalera {
 
+/// A distribution that can be fitted by linear moments too.
+template <typename Distribucion>
+concept ConMomentosLineales = requires(Distribucion& d, std::span<const Real> ordenada) {
+    ajustarLineales(d, ordenada);
+};
+
 /// The window of a distribution: binds the parameters of each kind of moments to the routines of
 /// the distribution, which stand in a file of their own under the same names for all of them.
 template <typename Distribucion>
@@ -22,7 +28,8 @@ protected:
     void calcularParametros() override {
         const auto ordenada = serieOrdenada.primeros(conteoDatos);
         ajustarOrdinarios(conOrdinarios, ordenada);
-        ajustarLineales(conLineales, ordenada);
+        if constexpr (ConMomentosLineales<Distribucion>)
+            ajustarLineales(conLineales, ordenada);
     }
     Real reducir(Momentos tipo, Real q) override { return variableReducida(distribucion(tipo), q); }
     Real probabilidad(Momentos tipo, Real reducida) override {

@@ -148,6 +148,7 @@ void FitWorksheet::ajustar() {
     ordenarAscendente(serieOrdenada.primeros(conteoDatos));
     if (!admitirOrdenada())
         return;
+    trasOrdenar();
     for (long m = 1; m <= conteoDatos; ++m)
         probEmpirica[m] = posicionWeibull(m, conteoDatos);
     calcularParametros();

@@ -93,6 +93,8 @@ protected:
     virtual bool admitirSerie() { return true; }
     /// The same for the sorted series, before the empirical probabilities.
     virtual bool admitirOrdenada() { return true; }
+    /// What is computed of the sorted series before the empirical probabilities.
+    virtual void trasOrdenar() {}
     /// Fills the parameters one after another, so that a failure leaves those before it.
     virtual void calcularParametros() = 0;
     /// Looks at all reduced variates of a kind, before any cumulative value.

@@ -68,6 +68,7 @@ protected:
         steps.push_back("ordenada " + textOf(serieOrdenada));
         return acceptSorted;
     }
+    void trasOrdenar() override { steps.emplace_back("tras ordenar"); }
     void calcularParametros() override {
         steps.emplace_back("parámetros");
         first = 1.5;
@@ -145,7 +146,7 @@ TEST_F(FitTemplate, OrderOfTheSteps) {
     probe.ordinary = {0.2, 0.4};
     fit(probe, {"3", "1"});
     EXPECT_EQ(probe.steps,
-              (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. ", "parámetros",
+              (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. ", "tras ordenar", "parámetros",
                      "reducidas ordinarias 2", "reducidas lineales 2", "antes 1.5", "tras"}));
     EXPECT_EQ(probe.txtdos.text(), "2.25");
 }
