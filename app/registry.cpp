@@ -32,10 +32,10 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmParamEsta", create<frmParamEsta>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
-        {"frmDisGumbel", create<frmDisGumbel>},
-        {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmDisLogNormal3", create<frmDisLogNormal3>},
+        {"frmDisGumbel", create<frmDisGumbel>},
+        {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmPenman", create<frmPenman>},
     };

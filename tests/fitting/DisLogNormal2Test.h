@@ -8,8 +8,7 @@ namespace caudalera::testing {
 /// µyl, Syl.
 class DisLogNormal2Test : public FitTest {
 protected:
-    DisLogNormal2Test()
-        : FitTest("frmDisLogNormal2", {"txtux", "txtSX", "txtmedial", "txtsl"}) {}
+    DisLogNormal2Test() : FitTest("frmDisLogNormal2", {"txtux", "txtSX", "txtmedial", "txtsl"}) {}
 
     const std::vector<Message> notPositive = {
         {"Para esta distribución, los valores de la serie no pueden ser iguales a 0, ¡Corregir "
