@@ -39,9 +39,10 @@ bool saveChartImage(QCustomPlot& plot, const QString& path) {
     const QString suffix = QFileInfo(path).suffix().toLower();
     if (suffix == QLatin1String("svg"))
         return writeSvg(plot, path);
-    if (suffix == QLatin1String("pdf"))
+    if (suffix == QLatin1String("pdf")) {
         return plot.savePdf(path, plot.width(), plot.height(), QCP::epNoCosmetic,
                             QStringLiteral("Caudalera"));
+    }
     return plot.toPixmap(plot.width(), plot.height(), printScale).save(path, "PNG");
 }
 

@@ -14,9 +14,10 @@ constexpr double smallestStep = 1e-5;
 /// Decimals that tell every multiple of the step apart: 0 for 20, 1 for 2.5, 2 for 0.05.
 int decimalsOf(double step) {
     int decimals = 0;
-    for (double scaled = step; decimals < 9; ++decimals, scaled *= 10)
+    for (double scaled = step; decimals < 9; ++decimals, scaled *= 10) {
         if (std::abs(scaled - std::round(scaled)) < 1e-6 * scaled)
             break;
+    }
     return decimals;
 }
 

@@ -359,9 +359,10 @@ void ChartView::askAndSave() {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     const QString path = dialog.selectedFiles().constFirst();
-    if (!saveImage(path))
+    if (!saveImage(path)) {
         QMessageBox::warning(this, tr("Guardar imagen"),
                              tr("No se pudo guardar la imagen en %1").arg(path));
+    }
 }
 
 } // namespace caudalera

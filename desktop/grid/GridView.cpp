@@ -59,9 +59,10 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
                  style::accent().lighter(130).name())
             .arg(style::halfUnit()));
 
-    if (grid.editor)
+    if (grid.editor) {
         editor_ = new GridEditor(session, *grid.editor, viewport(),
                                  [this](const QString& text) { paste(text); });
+    }
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GridView::userScrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { syncEditor(); });
 }

@@ -156,10 +156,12 @@ bool DocumentView::showsParagraphs(int from, int to) const {
         static_cast<int>(text.length()) != document()->characterCount() - 1)
         return false;
     for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
-         block = block.next())
+         block = block.next()) {
         if (richtext::paragraphOf(block) !=
-            paragraphs[static_cast<std::size_t>(block.blockNumber())])
+            paragraphs[static_cast<std::size_t>(block.blockNumber())]) {
             return false;
+        }
+    }
     return true;
 }
 

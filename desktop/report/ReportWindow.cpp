@@ -30,9 +30,10 @@ QList<QKeySequence> shortcutsOf(const frmPadre& padre, const MenuEntry& entry) {
         {&padre.mnuEditCut, QKeySequence::Cut},     {&padre.mnuEditCopy, QKeySequence::Copy},
         {&padre.mnuEditPaste, QKeySequence::Paste},
     };
-    for (const auto& [each, key] : keys)
+    for (const auto& [each, key] : keys) {
         if (each == &entry)
             return QKeySequence::keyBindings(key);
+    }
     return {};
 }
 
@@ -69,9 +70,10 @@ ReportWindow::ReportWindow(Session& session, frmPadre& padre)
         if (!frame || session_.busy() || padre_.active() == frame->document())
             return;
         session_.act([&] {
-            for (const auto& document : padre_.documents())
+            for (const auto& document : padre_.documents()) {
                 if (document.get() == frame->document())
                     padre_.activate(*document);
+            }
         });
     });
     place();
@@ -154,10 +156,11 @@ void ReportWindow::sync() {
         if (action->isEnabled() != entry->enabled)
             action->setEnabled(entry->enabled);
     }
-    for (std::size_t i = 0; i < panels_.size(); ++i)
-        if (const QString panel = toQString(padre_.sbStatusBar.panels[i]);
-            panels_[i]->text() != panel)
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        const QString panel = toQString(padre_.sbStatusBar.panels[i]);
+        if (panels_[i]->text() != panel)
             panels_[i]->setText(panel);
+    }
     syncDocuments();
 }
 
@@ -188,10 +191,11 @@ void ReportWindow::syncDocuments() {
         frames_.push_back(frame);
         area_->addSubWindow(frame);
         // Reports are wide: the first document takes all the room, the others follow suit.
-        if (frames_.size() == 1)
+        if (frames_.size() == 1) {
             frame->showMaximized();
-        else
+        } else {
             frame->show();
+        }
     }
     DocumentFrame* active = frameOf(padre_.active());
     if (active && area_->currentSubWindow() != active)

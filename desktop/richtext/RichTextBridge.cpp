@@ -31,10 +31,11 @@ double pixels(int twips) {
 /// Characters that would end a block or stand for an object inside Qt's documents.
 QString shown(const std::string& utf8) {
     QString text = toQString(utf8);
-    for (QChar& character : text)
+    for (QChar& character : text) {
         if (character == QChar::ParagraphSeparator || character == QChar(0xFDD0) ||
             character == QChar(0xFDD1))
             character = QChar::ReplacementCharacter;
+    }
     return text;
 }
 
@@ -117,10 +118,11 @@ Paragraph partOf(const QTextBlock& block, int start, int end) {
             continue;
         std::string text = run.text().mid(first - from, last - first).toStdString();
         CharacterFormat characters = characterFormat(run.charFormat());
-        if (!paragraph.runs.empty() && paragraph.runs.back().format == characters)
+        if (!paragraph.runs.empty() && paragraph.runs.back().format == characters) {
             paragraph.runs.back().text += text;
-        else
+        } else {
             paragraph.runs.push_back({std::move(text), std::move(characters)});
+        }
     }
     return paragraph;
 }

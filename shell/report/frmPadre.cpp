@@ -126,9 +126,10 @@ void frmPadre::imprimir() {
 }
 
 void frmPadre::copiar() {
-    if (active())
+    if (active()) {
         platform().setClipboardText(
             writeRtf(active()->rtfText.selection(), platform().reportFont()));
+    }
 }
 
 void frmPadre::cortar() {

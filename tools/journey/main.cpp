@@ -88,9 +88,10 @@ private:
     static QWidget& window(const char* name) {
         QWidget* found = nullptr;
         const auto shown = [&] {
-            for (QWidget* each : QApplication::topLevelWidgets())
+            for (QWidget* each : QApplication::topLevelWidgets()) {
                 if (each->objectName() == QLatin1String(name) && each->isVisible())
                     found = each;
+            }
             return found != nullptr;
         };
         if (!QTest::qWaitFor(shown, 10000))
@@ -139,10 +140,12 @@ private:
             QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
             picture("menu-distribuciones");
             QMenu* menu = title->menu();
-            for (QAction* entry : menu->actions())
-                if (entry->objectName() == "mdistrinormal")
+            for (QAction* entry : menu->actions()) {
+                if (entry->objectName() == "mdistrinormal") {
                     QTest::mouseClick(menu, Qt::LeftButton, {},
                                       menu->actionGeometry(entry).center());
+                }
+            }
             return;
         }
         fail("no menu of distributions");
