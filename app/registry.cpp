@@ -1,10 +1,13 @@
 #include "app/registry.h"
 
 #include "evapotranspiration/frmPenman.h"
+#include "fitting/frmDisGamma2par.h"
+#include "fitting/frmDisGamma3par.h"
 #include "fitting/frmDisGumbel.h"
 #include "fitting/frmDisLogGumbel.h"
 #include "fitting/frmDisLogNormal2.h"
 #include "fitting/frmDisLogNormal3.h"
+#include "fitting/frmDisLogPearson3.h"
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
@@ -34,6 +37,9 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmDisLogNormal3", create<frmDisLogNormal3>},
+        {"frmDisGamma2par", create<frmDisGamma2par>},
+        {"frmDisGamma3par", create<frmDisGamma3par>},
+        {"frmDisLogPearson3", create<frmDisLogPearson3>},
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmQmaxRacional", create<frmQmaxRacional>},

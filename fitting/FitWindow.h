@@ -35,7 +35,13 @@ protected:
     Real probabilidad(Momentos tipo, Real reducida) override {
         return acumulada(distribucion(tipo), reducida);
     }
-    Real cuantil(Momentos tipo, Real p) override { return inversa(distribucion(tipo), p); }
+    /// An inverse that is sought by trial counts its passes where the rows of data are counted.
+    Real cuantil(Momentos tipo, Real p) override {
+        if constexpr (requires { inversa(distribucion(tipo), p, conteoDatos); })
+            return inversa(distribucion(tipo), p, conteoDatos);
+        else
+            return inversa(distribucion(tipo), p);
+    }
 };
 
 } // namespace caudalera
