@@ -50,7 +50,7 @@ void FitWorksheet::disponer(Layout camposDeParametros) {
     if (tipoDeAjuste) {
         elecciones.push_back(
             frame(tipoDeAjuste->fraTipoAjuste,
-                  list({&tipoDeAjuste->optOrdinario, &tipoDeAjuste->optMomentoLi})));
+                  row({control(tipoDeAjuste->optOrdinario), control(tipoDeAjuste->optMomentoLi)})));
     }
     elecciones.push_back(
         frame(fraNivel, row({control(opt020), control(opt010), control(opt005), control(opt001)})));
