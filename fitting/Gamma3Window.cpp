@@ -35,9 +35,14 @@ Gamma3Window<Distribucion>::Gamma3Window(Program& program, std::string name, std
     this->lineales = {{&lineal.posicion, &txtxol, "Parámetro de localización (Xol)= "},
                       {&lineal.forma, &txtgammal, "Parámetro de forma (gammal)= "},
                       {&lineal.escala, &txtbetal, "Parámetro de escala (betal)= "}};
-    this->disponer(layout::column(
-        {layout::control(lblOrdinarios), layout::fields({txtxo, txtgamma, txtbeta}),
-         layout::control(lblLineales), layout::fields({txtxol, txtgammal, txtbetal})}));
+    this->disponer(layout::fields({{nullptr, {&lblOrdinarios}, nullptr},
+                                   txtxo,
+                                   txtgamma,
+                                   txtbeta,
+                                   {nullptr, {&lblLineales}, nullptr},
+                                   txtxol,
+                                   txtgammal,
+                                   txtbetal}));
 }
 
 template <typename Distribucion>

@@ -28,8 +28,12 @@ frmDisGamma2par::frmDisGamma2par(Program& program)
                   {&conOrdinarios.escala, &txtbeta, "Parámetro de escala (beta)= "}};
     lineales = {{&conLineales.forma, &txtgammal, "Parámetro de forma (gammal)= "},
                 {&conLineales.escala, &txtbetal, "Parámetro de escala (betal)= "}};
-    disponer(layout::column({layout::control(lblOrdinarios), layout::fields({txtgamma, txtbeta}),
-                             layout::control(lblLineales), layout::fields({txtgammal, txtbetal})}));
+    disponer(layout::fields({{nullptr, {&lblOrdinarios}, nullptr},
+                             txtgamma,
+                             txtbeta,
+                             {nullptr, {&lblLineales}, nullptr},
+                             txtgammal,
+                             txtbetal}));
 }
 
 void frmDisGamma2par::calcularParametros() {
