@@ -160,6 +160,16 @@ void FitWorksheet::ajustar() {
     ajusteCalculado = true;
 }
 
+bool FitWorksheet::admitirPositivos(Icon icono) const {
+    const auto ordenada = serieOrdenada.primeros(conteoDatos);
+    if (ordenada.empty() || ordenada.front() > 0)
+        return true;
+    mensaje("Para esta distribución, los valores de la serie no pueden ser iguales a 0, ¡Corregir "
+            "valores¡",
+            "Mensaje de error", icono);
+    return false;
+}
+
 void FitWorksheet::calcularAcumuladas() {
     for (const Momentos tipo : tipos()) {
         for (long m = 1; m <= conteoDatos; ++m)

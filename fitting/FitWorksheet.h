@@ -116,6 +116,10 @@ protected:
     /// Flow of a probability of non-exceedance.
     virtual Real cuantil(Momentos tipo, Real p) = 0;
 
+    /// What the fits of logarithms say of a sorted series with a value of 0 or less, which they do
+    /// not admit; they differ in the icon.
+    bool admitirPositivos(Icon icono) const;
+
     /// As the options stand now.
     Momentos tipoElegido() const;
     /// The kinds that the window has.

@@ -1,7 +1,5 @@
 #include "fitting/frmDisLogGumbel.h"
 
-#include "shell/worksheet/Messages.h"
-
 namespace caudalera {
 
 namespace {
@@ -29,12 +27,7 @@ frmDisLogGumbel::frmDisLogGumbel(Program& program)
           textosLogGumbel()) {}
 
 bool frmDisLogGumbel::admitirOrdenada() {
-    if (conteoDatos < 1 || serieOrdenada[1] > 0)
-        return true;
-    mensaje("Para esta distribución, los valores de la serie no pueden ser iguales a 0, ¡Corregir "
-            "valores¡",
-            "Mensaje de error", Icon::information);
-    return false;
+    return admitirPositivos(Icon::information);
 }
 
 } // namespace caudalera

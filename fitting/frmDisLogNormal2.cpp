@@ -33,13 +33,7 @@ frmDisLogNormal2::frmDisLogNormal2(Program& program)
 }
 
 bool frmDisLogNormal2::admitirOrdenada() {
-    const auto ordenada = serieOrdenada.primeros(conteoDatos);
-    if (ordenada.empty() || ordenada.front() > 0)
-        return true;
-    mensaje("Para esta distribución, los valores de la serie no pueden ser iguales a 0, "
-            "¡Corregir valores¡",
-            "Mensaje de error", Icon::error);
-    return false;
+    return admitirPositivos(Icon::error);
 }
 
 } // namespace caudalera
