@@ -10,13 +10,6 @@ namespace {
 class DisLogNormal2Evaluate : public DisLogNormal2Test {
 protected:
     void fitFour() { fit({"3", "1", "4", "2"}); }
-    static std::vector<Message> error(const std::string& text) {
-        return {{text, "Mensaje de Error", Icon::error}};
-    }
-    std::vector<Message> messagesOf(const std::string& button) {
-        click(button);
-        return messages();
-    }
 };
 
 TEST_F(DisLogNormal2Evaluate, BeforeAnyCalculation) {

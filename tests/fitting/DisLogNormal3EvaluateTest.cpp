@@ -8,15 +8,8 @@ namespace {
 
 class DisLogNormal3Evaluate : public DisLogNormal3Test {
 protected:
-    static std::vector<Message> error(const std::string& text) {
-        return {{text, "Mensaje de Error", Icon::error}};
-    }
     static std::vector<Message> notAbove(const std::string& text) {
         return {{"Para este valor, no es posible calcular " + text, "Error", Icon::information}};
-    }
-    std::vector<Message> messagesOf(const std::string& button) {
-        click(button);
-        return messages();
     }
 };
 
