@@ -11,6 +11,7 @@
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
+#include "regression/frmRegreLineal.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
 #include "shell/report/frmPadre.h"
@@ -33,6 +34,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmPadre", create<frmPadre>},
         {"frmacerc", create<frmacerc>},
         {"frmParamEsta", create<frmParamEsta>},
+        {"frmRegreLineal", create<frmRegreLineal>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},

@@ -108,7 +108,7 @@ TEST_F(EjRegSimpleTest, ReadsTheNumericPrefixOfX) {
 
 TEST_F(EjRegSimpleTest, EditingTheGridLeavesTheCoefficients) {
     calculate(doubling);
-    replacePairs({{"1", "100"}});
+    replaceRows({{"1", "100"}});
     enter("txtvxx", "10");
     click("optLineal");
     EXPECT_TRUE(messages().empty());

@@ -31,7 +31,7 @@ TEST_F(EjRegSimpleTest, ALoadResetsTheResultsOnceTheFileIsIn) {
     rows({{"1", "3"}, {"2", "4"}});
     platform.answers = {file("datos.XY"), file("datos.XY")};
     click("bCrear");
-    replacePairs(doubling);
+    replaceRows(doubling);
     click("bCalcular");
     click("bGraficar");
     enter("txtvxx", "3");
@@ -121,7 +121,7 @@ TEST_F(EjRegSimpleTest, RefusesToDrawFewerThanTwoPairs) {
 TEST_F(EjRegSimpleTest, ARefusedDrawingLeavesTheEarlierOne) {
     rows(doubling);
     click("bGraficar");
-    replacePairs({{"1", "2"}});
+    replaceRows({{"1", "2"}});
     click("bGraficar");
     expectMessage(noChart);
     EXPECT_TRUE(control<Graph>("Graph1").visible);

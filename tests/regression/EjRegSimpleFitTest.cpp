@@ -79,7 +79,7 @@ TEST_F(EjRegSimpleTest, RefusesAnEmptyGrid) {
 
 TEST_F(EjRegSimpleTest, ARefusalKeepsTheLastFit) {
     calculate(doubling);
-    replacePairs({{"1", "1"}});
+    replaceRows({{"1", "1"}});
     click("bCalcular");
     expectMessage(tooFew);
     EXPECT_EQ(equations(), doublingEquations);
@@ -90,7 +90,7 @@ TEST_F(EjRegSimpleTest, ARefusalKeepsTheLastFit) {
 
 TEST_F(EjRegSimpleTest, ANewFitReplacesTheLastOne) {
     calculate(doubling);
-    replacePairs({{"2", "5"}, {"3", "7"}});
+    replaceRows({{"2", "5"}, {"3", "7"}});
     EXPECT_EQ(equations(), doublingEquations);
     click("bCalcular");
     EXPECT_EQ(cellText("grdecua", 1, 1), "Y = 1.0 + 2.0 * X");
@@ -99,11 +99,11 @@ TEST_F(EjRegSimpleTest, ANewFitReplacesTheLastOne) {
 // What each of these breaks: ln Y, ln X, ln of a negative, division by Cuu = 0, division by
 // sqrt(Cvv) = 0, a text read as 0.
 TEST_F(EjRegSimpleTest, OneMessageServesEveryFailureOfTheFit) {
-    const std::vector<Pairs> broken = {{{"1", "0"}, {"2", "3"}},  {{"0", "1"}, {"2", "3"}},
-                                       {{"1", "2"}, {"2", "-3"}}, {{"4", "1"}, {"4", "2"}},
-                                       {{"1", "3"}, {"2", "3"}},  {{"1", "2"}, {"2", "abc"}}};
-    for (const Pairs& pairs : broken) {
-        replacePairs(pairs);
+    const std::vector<Rows> broken = {{{"1", "0"}, {"2", "3"}},  {{"0", "1"}, {"2", "3"}},
+                                      {{"1", "2"}, {"2", "-3"}}, {{"4", "1"}, {"4", "2"}},
+                                      {{"1", "3"}, {"2", "3"}},  {{"1", "2"}, {"2", "abc"}}};
+    for (const Rows& pairs : broken) {
+        replaceRows(pairs);
         click("bCalcular");
         EXPECT_EQ(messages(), std::vector{notPositive}) << pairs[0][0] << "," << pairs[0][1];
         EXPECT_EQ(equations(), noEquations);
@@ -130,7 +130,7 @@ TEST_F(EjRegSimpleTest, AFailureOnAFirstRunLeavesTheFlagClear) {
 
 TEST_F(EjRegSimpleTest, AFailureKeepsTheEquationsAndCoefficientsOfTheLastFit) {
     calculate(doubling);
-    replacePairs({{"1", "5"}, {"2", "0"}});
+    replaceRows({{"1", "5"}, {"2", "0"}});
     click("bCalcular");
     expectMessage(notPositive);
     EXPECT_EQ(equations(), doublingEquations);

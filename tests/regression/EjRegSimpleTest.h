@@ -1,7 +1,6 @@
 #pragma once
 
-#include "shell/window/MSFlexGrid.h"
-#include "tests/support/WindowTest.h"
+#include "tests/regression/RegressionTest.h"
 
 #include <string>
 #include <vector>
@@ -9,36 +8,9 @@
 namespace caudalera {
 
 /// The open window of simple regression.
-class EjRegSimpleTest : public WindowTest {
+class EjRegSimpleTest : public RegressionTest {
 protected:
-    using Pairs = std::vector<std::vector<std::string>>;
-
-    EjRegSimpleTest() { open("frmEjRegSimple"); }
-
-    void calculate(const Pairs& pairs) {
-        rows(pairs);
-        click("bCalcular");
-    }
-
-    /// Replaces the grid's data without touching anything else of the window.
-    void replacePairs(const Pairs& pairs) {
-        cell("grdt", control<MSFlexGrid>("grdt").Rows() - 1, 1);
-        click("mnuEditEliminar");
-        rows(pairs);
-    }
-
-    /// As many pairs (i, i).
-    static Pairs diagonal(int count) {
-        Pairs pairs;
-        for (int i = 1; i <= count; ++i)
-            pairs.push_back({std::to_string(i), std::to_string(i)});
-        return pairs;
-    }
-
-    /// The rows of `grdecua` below its header.
-    std::vector<std::string> equations() {
-        return {rowText("grdecua", 1), rowText("grdecua", 2), rowText("grdecua", 3)};
-    }
+    EjRegSimpleTest() : RegressionTest("frmEjRegSimple") {}
 
     const std::vector<std::string> noEquations = {"|||", "|||", "|||"};
 
@@ -47,7 +19,7 @@ protected:
     // Potential, on (0, ln 2, ln 3, ln 4) and ln 2 x (1, 2, 3, 4): b = 1.4590220,
     // a = exp(1.7328680 - 1.4590220 x 0.7945135) = 1.7747426, R = 0.9801839, R2 = 0.9607605 (from
     // the sums of squares of the differences from the means).
-    const Pairs doubling = {{"1", "2"}, {"2", "4"}, {"3", "8"}, {"4", "16"}};
+    const Rows doubling = {{"1", "2"}, {"2", "4"}, {"3", "8"}, {"4", "16"}};
     const std::vector<std::string> doublingEquations = {
         "Lineal|Y = -4.0 + 4.6 * X|0.95917|0.92", "Exponencial|Y = 1.0 * ( 2.0 )  ^ X|1.0|1.0",
         "Potencial|Y = 1.7747426 *  X ^ (1.459022)|0.98018|0.96076"};
