@@ -11,6 +11,7 @@
 #include "fitting/frmDisNormal.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
+#include "regression/frmRegMul2Var.h"
 #include "regression/frmRegreLineal.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
@@ -36,6 +37,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmParamEsta", create<frmParamEsta>},
         {"frmRegreLineal", create<frmRegreLineal>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
+        {"frmRegMul2Var", create<frmRegMul2Var>},
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmDisLogNormal3", create<frmDisLogNormal3>},
