@@ -12,6 +12,7 @@
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
 #include "regression/frmRegMul2Var.h"
+#include "regression/frmRegMul3Var.h"
 #include "regression/frmRegreLineal.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
@@ -38,6 +39,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmRegreLineal", create<frmRegreLineal>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmRegMul2Var", create<frmRegMul2Var>},
+        {"frmRegMul3Var", create<frmRegMul3Var>},
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmDisLogNormal3", create<frmDisLogNormal3>},
