@@ -13,6 +13,8 @@
 #include "regression/frmEjRegSimple.h"
 #include "regression/frmRegMul2Var.h"
 #include "regression/frmRegMul3Var.h"
+#include "regression/frmRegPoli2Gra.h"
+#include "regression/frmRegPoli3Gra.h"
 #include "regression/frmRegreLineal.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
@@ -40,6 +42,8 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmRegMul2Var", create<frmRegMul2Var>},
         {"frmRegMul3Var", create<frmRegMul3Var>},
+        {"frmRegPoli2Gra", create<frmRegPoli2Gra>},
+        {"frmRegPoli3Gra", create<frmRegPoli3Gra>},
         {"frmDisNormal", create<frmDisNormal>},
         {"frmDisLogNormal2", create<frmDisLogNormal2>},
         {"frmDisLogNormal3", create<frmDisLogNormal3>},
