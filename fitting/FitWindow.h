@@ -37,10 +37,11 @@ protected:
     }
     /// An inverse that is sought by trial counts its passes where the rows of data are counted.
     Real cuantil(Momentos tipo, Real p) override {
-        if constexpr (requires { inversa(distribucion(tipo), p, conteoDatos); })
+        if constexpr (requires { inversa(distribucion(tipo), p, conteoDatos); }) {
             return inversa(distribucion(tipo), p, conteoDatos);
-        else
+        } else {
             return inversa(distribucion(tipo), p);
+        }
     }
 };
 
