@@ -11,10 +11,10 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         std::random_device random;
-        do
+        do {
             path_ = std::filesystem::temp_directory_path() /
                     ("caudalera-test-" + std::to_string(random()));
-        while (!std::filesystem::create_directory(path_));
+        } while (!std::filesystem::create_directory(path_));
     }
     ~TemporaryFolder() {
         std::error_code ignored;
