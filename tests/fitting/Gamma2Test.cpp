@@ -1,7 +1,7 @@
 // The gamma distribution of two parameters without a window.
 
 #include "fitting/gamma2.h"
-#include "tests/fitting/GammaSeries.h"
+#include "tests/fitting/SkewedSeries.h"
 #include "tests/support/FailureNumber.h"
 
 #include <gtest/gtest.h>
@@ -58,7 +58,7 @@ TEST(Gamma2, ShapeOfTheLargestLikelihood) {
 
 TEST(Gamma2, ScalingTheSeriesScalesTheScale) {
     for (const unsigned seed : {1U, 2U, 3U}) {
-        const auto series = randomSeries(seed, 60);
+        const auto series = skewedSeries(seed, 60);
         Gamma2 one;
         Gamma2 scaled;
         ajustarOrdinarios(one, series);
@@ -74,7 +74,7 @@ TEST(Gamma2, ScalingTheSeriesScalesTheScale) {
 
 TEST(Gamma2, MeanOfTheLawIsTheMeanOfTheSeries) {
     for (const unsigned seed : {4U, 5U, 6U}) {
-        const auto series = randomSeries(seed, 40);
+        const auto series = skewedSeries(seed, 40);
         const double mean = media(series).value();
         Gamma2 d;
         ajustarOrdinarios(d, series);
@@ -86,7 +86,7 @@ TEST(Gamma2, MeanOfTheLawIsTheMeanOfTheSeries) {
 
 // The order of the series counts for the rounding of the logarithms' sum alone.
 TEST(Gamma2, OrderOfTheSeriesIsNoMatter) {
-    auto series = randomSeries(7, 50);
+    auto series = skewedSeries(7, 50);
     Gamma2 d;
     ajustarOrdinarios(d, series);
     auto shuffled = series;

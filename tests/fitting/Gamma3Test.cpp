@@ -1,7 +1,7 @@
 // The gamma distribution of three parameters, of a series and of its logarithms, without a window.
 
 #include "fitting/logPearson3.h"
-#include "tests/fitting/GammaSeries.h"
+#include "tests/fitting/SkewedSeries.h"
 #include "tests/support/FailureNumber.h"
 #include "tests/support/PublishedSeries.h"
 
@@ -70,7 +70,7 @@ TEST(LogPearson3, HarricanaByOrdinaryMomentsOfTheLogarithms) {
 }
 
 TEST(LogPearson3, IsTheLawOfTheLogarithms) {
-    const auto series = randomSeries(11, 60);
+    const auto series = skewedSeries(11, 60);
     LogPearson3 d;
     Gamma3 ofLogs;
     const auto logarithms = mapped(series, [](Real x) { return Log(x); });
@@ -91,7 +91,7 @@ TEST(LogPearson3, IsTheLawOfTheLogarithms) {
 TEST(LogPearson3, FactorsShiftAndPowersScale) {
     for (const unsigned seed : {12U, 13U, 14U}) {
         // Logarithms with a skew.
-        const auto series = mapped(randomSeries(seed, 60), [](Real x) { return Exp(x / 50); });
+        const auto series = mapped(skewedSeries(seed, 60), [](Real x) { return Exp(x / 50); });
         LogPearson3 one;
         LogPearson3 other;
         ajustarLineales(one, series);
@@ -107,7 +107,7 @@ TEST(LogPearson3, FactorsShiftAndPowersScale) {
 
 TEST(Gamma3, ShiftsMoveThePositionAndFactorsScale) {
     for (const unsigned seed : {21U, 22U, 23U}) {
-        const auto series = randomSeries(seed, 60);
+        const auto series = skewedSeries(seed, 60);
         for (const auto fit :
              {static_cast<void (*)(Gamma3&, std::span<const Real>)>(ajustarOrdinarios),
               static_cast<void (*)(Gamma3&, std::span<const Real>)>(ajustarLineales)}) {
@@ -127,7 +127,7 @@ TEST(Gamma3, ShiftsMoveThePositionAndFactorsScale) {
 
 // Mean, deviation and skew of the law: position + shape scale, scale Sqr(shape), 2 / Sqr(shape).
 TEST(Gamma3, MomentsOfTheLawAreThoseOfTheSeries) {
-    const auto series = randomSeries(31, 80);
+    const auto series = skewedSeries(31, 80);
     Gamma3 d;
     ajustarOrdinarios(d, series);
     const double mean = media(series).value();

@@ -11,7 +11,7 @@
 namespace caudalera::testing {
 
 /// Sorted values of a skewed law, the same ones for a seed on every machine.
-inline std::vector<Real> randomSeries(unsigned seed, int n) {
+inline std::vector<Real> skewedSeries(unsigned seed, int n) {
     std::mt19937 engine(seed);
     std::vector<Real> series;
     for (int i = 0; i < n; ++i) {
