@@ -10,12 +10,10 @@
 
 namespace caudalera {
 
-/// Columns of a table of tests/data, by the names in its header line and in the order asked for, as
-/// the values are written there.
-inline std::vector<std::vector<std::string>>
-publishedTable(const std::string& name, const std::vector<std::string>& columns) {
-    const auto path =
-        std::filesystem::path(CAUDALERA_SOURCE_DIR) / "tests" / "data" / (name + ".csv");
+/// Columns of a table, by the names in its header line and in the order asked for, as the values
+/// are written there.
+inline std::vector<std::vector<std::string>> tableOf(const std::filesystem::path& path,
+                                                     const std::vector<std::string>& columns) {
     const auto cellsOf = [](const std::string& line) {
         std::vector<std::string> cells;
         std::istringstream stream(line);
@@ -44,6 +42,13 @@ publishedTable(const std::string& name, const std::vector<std::string>& columns)
         rows.push_back(row);
     }
     return rows;
+}
+
+/// The same of tests/data.
+inline std::vector<std::vector<std::string>>
+publishedTable(const std::string& name, const std::vector<std::string>& columns) {
+    return tableOf(std::filesystem::path(CAUDALERA_SOURCE_DIR) / "tests" / "data" / (name + ".csv"),
+                   columns);
 }
 
 } // namespace caudalera
