@@ -43,8 +43,8 @@ MultipleRegressionWorksheet::MultipleRegressionWorksheet(Program& program, std::
 void MultipleRegressionWorksheet::disponerVariables(const std::vector<TextBox*>& valores) {
     encadenar({valores.begin(), valores.end()});
     valores.back()->onEnter = [this] { optLineal.set(); };
-    disponer(valores,
-             {layout::list({&optLineal, &optPotencial}), layout::buttons({&bLimpiarDatos})});
+    disponer(valores, {layout::list({&optLineal, &optPotencial}),
+                       layout::column({layout::buttons({&bLimpiarDatos})})});
 }
 
 void MultipleRegressionWorksheet::limpiar() {

@@ -28,7 +28,9 @@ RegressionTexts textosDePares() {
 }
 
 void SimpleRegressionWorksheet::disponerPares(Layout evaluaciones) {
-    disponer({&txtvxx}, {std::move(evaluaciones), layout::buttons({&bLimpiarDatos})}, &Graph1);
+    disponer({&txtvxx},
+             {std::move(evaluaciones), layout::column({layout::buttons({&bLimpiarDatos})})},
+             &Graph1);
     mandatoTrasCalcular(bGraficar);
 }
 
