@@ -21,6 +21,7 @@ TEST_F(DisNormalForm, TextsOfTheWindow) {
     EXPECT_EQ(text("Frame7"), "Archivos y resultados:");
     EXPECT_EQ(text("lblAjuste"), "Ajuste:");
     EXPECT_EQ(text("lblmensaje"), "");
+    EXPECT_TRUE(control<Label>("lblmensaje").wraps) << "the verdict is longer than a line";
 }
 
 TEST_F(DisNormalForm, FieldsWithTheirLabelsAndUnits) {

@@ -269,6 +269,28 @@ TEST(GammaInversa, MakesOneStepBehindTheTest) {
     EXPECT_EQ(passes, 2);
 }
 
+// A search that ends in its first pass gives the step itself: x - 0.1, 0.01 or 0.002 of the
+// logarithm of (1 - p) / (1 - F), with F = P(a, a) = 0.83, 0.96 and 0.997.
+TEST(GammaInversa, StepsOfEachStretch) {
+    struct Stretch {
+        double a;
+        double from;
+        double to;
+        double step;
+    };
+    for (const auto& [a, from, to, step] : std::vector<Stretch>{
+             {0.1, 0.8, 0.9, 0.1}, {0.01, 0.9, 0.995, 0.01}, {0.0004, 0.995, 1, 0.002}}) {
+        const double F = incomplete(a, a).value();
+        const double p = F + 4.9e-5;
+        ASSERT_TRUE(p >= from && p < to) << a << " " << F;
+        Integer16 passes;
+        EXPECT_NEAR(gammaInversa(a, p, passes).value(), a - step * std::log((1 - p) / (1 - F)),
+                    1e-12 * a)
+            << a;
+        EXPECT_EQ(passes, 1) << a;
+    }
+}
+
 TEST(GammaInversa, FailuresByTheirNumbers) {
     Integer16 passes;
     const auto number = [&](double a, double p) {
