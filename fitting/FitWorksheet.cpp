@@ -139,8 +139,8 @@ void FitWorksheet::calcular() {
 }
 
 void FitWorksheet::ajustar() {
-    alEmpezar();
     leerCuadricula();
+    trasLeer();
     if (!admitirSerie())
         return;
     for (long i = 1; i <= conteoDatos; ++i)

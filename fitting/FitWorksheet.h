@@ -87,8 +87,8 @@ protected:
     void disponer(Layout camposDeParametros);
 
     // What a window supplies to `bCalcular`, in the order of the steps.
-    /// Before anything else.
-    virtual void alEmpezar() {}
+    /// Behind the reading of the grid, which may have failed, and before any other step.
+    virtual void trasLeer() {}
     /// Looks at the series in input order; false, after its message, ends the command.
     virtual bool admitirSerie() { return true; }
     /// The same for the sorted series, before the empirical probabilities.

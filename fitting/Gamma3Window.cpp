@@ -46,7 +46,7 @@ Gamma3Window<Distribucion>::Gamma3Window(Program& program, std::string name, std
 }
 
 template <typename Distribucion>
-void Gamma3Window<Distribucion>::alEmpezar() {
+void Gamma3Window<Distribucion>::trasLeer() {
     this->conOrdinarios.invalida = false;
     this->conLineales.invalida = false;
 }

@@ -29,7 +29,7 @@ protected:
     using typename FitWorksheet::Evaluacion;
     using typename FitWorksheet::Momentos;
 
-    void alEmpezar() override;
+    void trasLeer() override;
     void trasReducir(Momentos tipo, std::span<const Real> reducidas) override;
     Real probabilidad(Momentos tipo, Real reducida) override;
     void trasElAjuste() override;

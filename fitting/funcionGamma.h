@@ -28,7 +28,7 @@ Real gammaIncompleta(Real a, Real x, Real G);
 /// is steep (a large, p small) and creep where it is flat (a small). `pasadas` counts the passes as
 /// they are made.
 /// Failures of both functions above, at every x that the search meets: 5 also where a step leads
-/// below 0; 5 for p below 0 and above 1, 11 for 0 and 1.
+/// below 0; 5 for p below 0 and from 1 on, 11 for 0.
 Real gammaInversa(Real a, Real p, Integer16& pasadas);
 
 } // namespace caudalera

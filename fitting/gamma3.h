@@ -22,9 +22,9 @@ struct Gamma3 {
 // Parameters from a series in ascending order, set one after another, so that a failure leaves
 // those before it; whether they are invalid before them.
 
-/// Ordinary moments: mean, standard deviation with divisor n - 1 and skew coefficient, see
-/// momentos.h. Invalid for a negative skew, which gives a negative scale. Failure 11 for fewer than
-/// three values, for equal ones, for the mean 0 and for the skew 0.
+/// Ordinary moments (Rao and Hamed 2000, chapter 6): mean, standard deviation with divisor n - 1
+/// and skew coefficient, see momentos.h. Invalid for a negative skew, which gives a negative scale.
+/// Failure 11 for fewer than three values, for equal ones, for the mean 0 and for the skew 0.
 void ajustarOrdinarios(Gamma3& d, std::span<const Real> ordenada);
 
 /// Linear moments, by the approximations of Hosking (1990) for the linear skew t = l3 / l2, of

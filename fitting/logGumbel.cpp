@@ -1,6 +1,7 @@
 #include "fitting/logGumbel.h"
 
 #include "fitting/gumbel.h"
+#include "shell/numbers/logaritmos.h"
 #include "shell/numbers/momentos.h"
 
 #include <vector>
@@ -11,14 +12,6 @@ namespace {
 
 Gumbel deLogaritmos(const LogGumbel& d) {
     return {d.posicion, d.escala};
-}
-
-std::vector<Real> logaritmos(std::span<const Real> valores) {
-    std::vector<Real> y;
-    y.reserve(valores.size());
-    for (const Real valor : valores)
-        y.push_back(Log(valor));
-    return y;
 }
 
 } // namespace

@@ -1,23 +1,12 @@
 #include "fitting/logNormal2.h"
 
 #include "fitting/aproximacionNormal.h"
+#include "shell/numbers/logaritmos.h"
 #include "shell/numbers/momentos.h"
 
 #include <vector>
 
 namespace caudalera {
-
-namespace {
-
-std::vector<Real> logaritmos(std::span<const Real> ordenada) {
-    std::vector<Real> y;
-    y.reserve(ordenada.size());
-    for (const Real x : ordenada)
-        y.push_back(Log(x));
-    return y;
-}
-
-} // namespace
 
 void ajustarOrdinarios(LogNormal2& d, std::span<const Real> ordenada) {
     const std::vector<Real> y = logaritmos(ordenada);

@@ -1,6 +1,6 @@
 #include "fitting/logPearson3.h"
 
-#include <vector>
+#include "shell/numbers/logaritmos.h"
 
 namespace caudalera {
 
@@ -12,14 +12,6 @@ Gamma3& delLogaritmo(LogPearson3& d) {
 }
 const Gamma3& delLogaritmo(const LogPearson3& d) {
     return d;
-}
-
-std::vector<Real> logaritmos(std::span<const Real> x) {
-    std::vector<Real> todos;
-    todos.reserve(x.size());
-    for (const Real valor : x)
-        todos.push_back(Log(valor));
-    return todos;
 }
 
 } // namespace

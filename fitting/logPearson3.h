@@ -5,7 +5,8 @@
 namespace caudalera {
 
 /// The log-Pearson type III distribution of a variable q: the natural logarithm of q has a gamma
-/// distribution of three parameters, those held here, in units of the logarithm.
+/// distribution of three parameters, those held here, in units of the logarithm (Rao and Hamed
+/// 2000, chapter 6).
 struct LogPearson3 : Gamma3 {};
 
 // Parameters from a series in ascending order, as those of Gamma3 from its logarithms; failure 5

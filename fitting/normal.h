@@ -17,8 +17,9 @@ struct Normal {
 // Parameters from a series in ascending order, set one after another, so that a failure leaves
 // those before it.
 
-/// Ordinary moments: mean and standard deviation with divisor n - 1. Failure 11 for fewer than two
-/// values and for the mean 0, which has no coefficient of variation.
+/// Ordinary moments (Rao and Hamed 2000, chapter 5): mean and standard deviation with divisor
+/// n - 1. Failure 11 for fewer than two values and for the mean 0, which has no coefficient of
+/// variation.
 void ajustarOrdinarios(Normal& d, std::span<const Real> ordenada);
 /// Linear moments: l1, and the square root of pi times l2 (Hosking 1990, table 1). Failure 11 for
 /// fewer than four values.

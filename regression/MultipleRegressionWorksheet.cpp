@@ -1,7 +1,7 @@
 #include "regression/MultipleRegressionWorksheet.h"
 
-#include "regression/ajusteLineal.h"
 #include "regression/textosRegresion.h"
+#include "shell/numbers/logaritmos.h"
 
 #include <utility>
 

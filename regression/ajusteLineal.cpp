@@ -1,8 +1,6 @@
 #include "regression/ajusteLineal.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <iterator>
 
 namespace caudalera {
 
@@ -28,13 +26,6 @@ AjusteLineal ajusteLineal(std::span<const Real> u, std::span<const Real> v) {
     const Real pendiente = Cuv / Cuu;
     const Real r = Cuv / Sqr(Cvv * Cuu);
     return {vm - pendiente * um, pendiente, r, Pow(r, 2)};
-}
-
-std::vector<Real> logaritmos(std::span<const Real> valores) {
-    std::vector<Real> resultado;
-    resultado.reserve(valores.size());
-    std::transform(valores.begin(), valores.end(), std::back_inserter(resultado), Log);
-    return resultado;
 }
 
 } // namespace caudalera

@@ -3,7 +3,6 @@
 #include "shell/numbers/Real.h"
 
 #include <span>
-#include <vector>
 
 namespace caudalera {
 
@@ -24,8 +23,5 @@ struct AjusteLineal {
 /// straight line), with the sums about the mean taken from the raw sums, as in
 /// Cuu = sum(u^2) - n * mean(u)^2, and r = Cuv / sqrt(Cvv * Cuu).
 AjusteLineal ajusteLineal(std::span<const Real> u, std::span<const Real> v);
-
-/// Natural logarithm of every value; failure 5 for a value of 0 or less.
-std::vector<Real> logaritmos(std::span<const Real> valores);
 
 } // namespace caudalera

@@ -1,6 +1,7 @@
 #include "regression/frmEjRegSimple.h"
 
 #include "regression/textosRegresion.h"
+#include "shell/numbers/logaritmos.h"
 
 #include <string_view>
 

@@ -78,6 +78,7 @@ TEST_F(DisGamma2par, PeriodsAndProbabilities) {
     EXPECT_EQ(above("37"), "40.05");    // 40.045245
     EXPECT_EQ(below("37"), "59.95");    // 59.954755
     EXPECT_EQ(below("0.5"), ".08");     // 0.078078978
+    EXPECT_EQ(below("47"), "71.90");    // 71.900187
     click("optMomentoLi");
     EXPECT_EQ(periodOf("37"), "2.8"); // 2.7520223
     EXPECT_EQ(above("37"), "36.34");  // 36.336915

@@ -232,6 +232,71 @@ TEST_F(DisGamma3par, FailureInAQuotientLeavesTheParametersAndClearsTheFlags) {
     EXPECT_TRUE(messages().empty());
 }
 
+// 501 values are more than can be read: nothing has begun, and the kind stays invalid.
+TEST_F(DisGamma3par, FailureInTheReadingLeavesTheFlags) {
+    fit(negative);
+    values(Texts(497, "5"));
+    click("bCalcular");
+    EXPECT_EQ(messages(), badData);
+    enter("txtxt", "2");
+    click("bQ");
+    expectMessage(invalidKind("ordinarios"));
+}
+
+// The reduced variates of the linear kind fail before any cumulative value is new.
+TEST_F(DisGamma3par, FailureInTheReducedVariatesLeavesTheCumulativeColumns) {
+    fit(valid);
+    refit({"5", "9", "5", "5"});
+    EXPECT_EQ(messages(), badData);
+    click("bGraficar");
+    const auto& chart = control<Graph>("Graph1");
+    EXPECT_EQ(chart.x(), (std::vector<double>{0, 5, 5, 5, 9}));
+    const std::vector<double> before = {0, 0.2113, 0.3430, 0.5734, 0.9097};
+    for (std::size_t m = 0; m < before.size(); ++m)
+        EXPECT_NEAR(chart.series()[1].y.at(m), before[m], 0.5e-4) << m;
+}
+
+// Cs = 2.10309, and yet Xo = 1.09360 lies above the smallest value; so does Xol.
+TEST_F(DisGamma3par, ValueBelowThePositionIsInvalidInSpiteOfAPositiveSkew) {
+    fit({"1", "2", "2", "2", "2", "2", "5"});
+    EXPECT_TRUE(messages().empty());
+    EXPECT_EQ(parameters(), (Texts{"1.0936", "0.9044", "1.3182", "1.4321", "0.4218", "2.0235"}));
+    for (const long col : {3L, 4L})
+        for (long m = 1; m <= 7; ++m)
+            EXPECT_EQ(cellText("grddis", m, col), "0.00") << m;
+    enter("txtxt", "2");
+    click("bQ");
+    expectMessage(invalidKind("ordinarios"));
+}
+
+/// The window with parameters of the test's own.
+class GivenGamma3par : public frmDisGamma3par {
+public:
+    using frmDisGamma3par::frmDisGamma3par;
+    double position = 0;
+
+protected:
+    void calcularParametros() override {
+        conOrdinarios.posicion = conLineales.posicion = position;
+        conOrdinarios.forma = conLineales.forma = 2;
+        conOrdinarios.escala = conLineales.escala = 3;
+    }
+};
+
+// The reduced variate 0 is not below 0, and the series of the gamma function finds 0 / 0.
+TEST_F(DisGamma3par, ValueAtThePositionEndsInTheMessage) {
+    GivenGamma3par form(program);
+    form.load();
+    typeRows(program, form.grdt, {{"2"}, {"3"}, {"5"}, {"11"}});
+    form.position = 2;
+    program.click(form.bCalcular);
+    EXPECT_EQ(messages(), badData);
+    form.position = 1.9;
+    program.click(form.bCalcular);
+    EXPECT_TRUE(messages().empty());
+    EXPECT_TRUE(form.lblmensaje.caption.starts_with("Como el delta"));
+}
+
 // Three values stop in the linear sums: the ordinary parameters are new, with their flag, the
 // linear ones old.
 TEST_F(DisGamma3par, FailureInTheLinearSumsLeavesTheNewOrdinaryParameters) {

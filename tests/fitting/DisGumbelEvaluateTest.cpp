@@ -45,6 +45,7 @@ TEST_F(DisGumbelEvaluate, Probabilities) {
     EXPECT_EQ(below("3"), "71.06");
     EXPECT_EQ(below("0"), ".12"); // no zero in front of the point
     EXPECT_EQ(above("0"), "99.88");
+    EXPECT_EQ(below("3.3"), "77.60"); // 77.599932
     click("optMomentoLi");
     EXPECT_EQ(above("3"), "30.96");
     EXPECT_EQ(below("3"), "69.04");

@@ -53,6 +53,7 @@ TEST_F(DisLogNormal3Evaluate, ReturnPeriodAndProbabilities) {
     EXPECT_EQ(below("60"), "84.95");
     EXPECT_EQ(above("300"), ".37");
     EXPECT_EQ(below("8"), "1.12");
+    EXPECT_EQ(below("16"), "26.80"); // 26.796501
     EXPECT_TRUE(messages().empty());
 }
 

@@ -168,6 +168,18 @@ TEST_F(DisLogPearson3, DatumOfZeroLeavesTheEarlierResults) {
     EXPECT_EQ(flowOf("2"), "3.94");
 }
 
+// 501 values are more than can be read: nothing has begun, and the kind stays invalid.
+TEST_F(DisLogPearson3, FailureInTheReadingLeavesTheFlags) {
+    fit({"4", "7", "8", "9"});
+    messages();
+    values(Texts(497, "5"));
+    click("bCalcular");
+    EXPECT_EQ(messages(), badLogPearson);
+    enter("txtxt", "2");
+    click("bQ");
+    expectMessage(invalidKind("ordinarios"));
+}
+
 // Three values stop in the linear sums, behind the new ordinary parameters.
 TEST_F(DisLogPearson3, FailureInTheLinearSumsLeavesTheNewOrdinaryParameters) {
     fit(valid);

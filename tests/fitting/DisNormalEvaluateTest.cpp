@@ -64,7 +64,8 @@ TEST_F(DisNormalEvaluate, Probabilities) {
     fitFour();
     EXPECT_EQ(above("3"), "34.93");
     EXPECT_EQ(below("3"), "65.07");
-    EXPECT_EQ(below("0"), "2.64"); // Z = -1.9364917
+    EXPECT_EQ(below("0"), "2.64");   // Z = -1.9364917
+    EXPECT_EQ(below("0.8"), "9.40"); // 9.3950433
     click("optMomentoLi");
     EXPECT_EQ(above("3"), "36.75");
     EXPECT_EQ(below("3"), "63.25");

@@ -59,7 +59,7 @@ public:
     std::vector<std::string> steps;
 
 protected:
-    void alEmpezar() override { steps.emplace_back("empezar"); }
+    void trasLeer() override { steps.push_back("leída " + textOf(serieDatos)); }
     bool admitirSerie() override {
         steps.push_back("serie " + textOf(serieDatos));
         return acceptSeries;
@@ -105,6 +105,7 @@ protected:
         const bool isLinear = tipo == Momentos::lineales;
         if (!fitting)
             return isLinear ? reducida / 1000 : reducida / 100;
+        steps.emplace_back(isLinear ? "F lineal" : "F ordinaria");
         if (isLinear)
             return linear.empty() ? 0 : linear.at(ranks[1]++);
         return ordinary.at(ranks[0]++);
@@ -146,8 +147,9 @@ TEST_F(FitTemplate, OrderOfTheSteps) {
     probe.ordinary = {0.2, 0.4};
     fit(probe, {"3", "1"});
     EXPECT_EQ(probe.steps,
-              (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. ", "tras ordenar", "parámetros",
-                     "reducidas ordinarias 2", "reducidas lineales 2", "antes 1.5", "tras"}));
+              (Steps{"leída 3. 1. ", "serie 3. 1. ", "ordenada 1. 3. ", "tras ordenar",
+                     "parámetros", "reducidas ordinarias 2", "reducidas lineales 2", "F ordinaria",
+                     "F ordinaria", "F lineal", "F lineal", "antes 1.5", "tras"}));
     EXPECT_EQ(probe.txtdos.text(), "2.25");
 }
 
@@ -155,12 +157,12 @@ TEST_F(FitTemplate, RefusedSeriesEndsTheCommandWithNothingChanged) {
     ProbeFit probe(program, twoKinds);
     probe.acceptSeries = false;
     fit(probe, {"3", "1"});
-    EXPECT_EQ(probe.steps, (Steps{"empezar", "serie 3. 1. "}));
+    EXPECT_EQ(probe.steps, (Steps{"leída 3. 1. ", "serie 3. 1. "}));
     probe.acceptSeries = true;
     probe.acceptSorted = false;
     probe.steps.clear();
     program.click(probe.bCalcular);
-    EXPECT_EQ(probe.steps, (Steps{"empezar", "serie 3. 1. ", "ordenada 1. 3. "}));
+    EXPECT_EQ(probe.steps, (Steps{"leída 3. 1. ", "serie 3. 1. ", "ordenada 1. 3. "}));
     EXPECT_EQ(probe.txtuno.text(), "");
     EXPECT_EQ(probe.lblAjuste.caption, "Ajuste:");
     EXPECT_TRUE(messages().empty());

@@ -72,15 +72,6 @@ TEST(LinearFit, FailsOnDataWithoutSpread) {
     EXPECT_EQ(failureOf({1e200, 2}, {3, 4}), 6);
 }
 
-TEST(LinearFit, TakesLogarithmsOfPositiveValuesOnly) {
-    const auto logs = logaritmos(std::vector<Real>{1, 2});
-    ASSERT_EQ(logs.size(), 2U);
-    EXPECT_EQ(logs[0], 0);
-    EXPECT_DOUBLE_EQ(logs[1].value(), 0.693147180559945309);
-    for (const double bad : {0.0, -1.0})
-        EXPECT_EQ(testing::failureNumber([&] { logaritmos(std::vector<Real>{1, bad}); }), 5) << bad;
-}
-
 TEST(LineText, TakesTheSignFromTheSlopesText) {
     EXPECT_EQ(textoRecta("1.0", "2.5"), "Y = 1.0 + 2.5 * X");
     EXPECT_EQ(textoRecta("1.0", "-2.5"), "Y = 1.0  -2.5 * X");
