@@ -114,6 +114,14 @@ TEST_F(RacionalTest, NeitherSourceNorProvinceIsSetAtTheStart) {
         EXPECT_FALSE(shown(name)) << name;
 }
 
+TEST_F(RacionalTest, ResultsAreShownApartFromWhatIsEntered) {
+    for (const char* name : {"txttci", "txtImaxi", "txtecuacioni"})
+        EXPECT_TRUE(control<TextBox>(name).result) << name;
+    for (const char* name : {"txtcq", "txtaq", "txtiq", "txtac", "txts", "txtLi", "txtHi", "txtTi",
+                             "txtDuracionAdi"})
+        EXPECT_FALSE(control<TextBox>(name).result) << name;
+}
+
 TEST_F(RacionalTest, GridsStartEmpty) {
     EXPECT_EQ(form.grdC.Rows(), 50);
     EXPECT_EQ(form.grdC.Cols(), 6);

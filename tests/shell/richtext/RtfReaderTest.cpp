@@ -91,6 +91,7 @@ TEST(RtfReaderTest, SymbolsAndNamedCharacters) {
                  {"a\\~b\\_c\\-d", "a\u00A0b\u2011c\u00ADd"},
                  {"\\lquote a\\rquote\\ldblquote b\\rdblquote", "‘a’“b”"},
                  {"1\\endash 2\\emdash 3\\bullet", "1–2—3•"},
+                 {"a\\emspace b\\enspace c\\qmspace d", "a\u2003b\u2002c\u2005d"},
                  {"a\\:b\\|c\\^d", "abcd"},
                  {"a\\\tb\tc", "a\tb\tc"}});
 }
@@ -126,6 +127,10 @@ TEST(RtfReaderTest, SurrogatePairs) {
     expectTexts({{"\\u-10179?\\u-8704?x", "😀x"},
                  {"\\u55357?\\u56832?x", "😀x"},
                  {"\\u128512?x", "😀x"},
+                 {"\\u55296?\\u56320?x", "\U00010000x"},
+                 {"\\u56319?\\u57343?x", "\U0010FFFFx"},
+                 {"\\u55296?\\u57344?x", "\uFFFD\uE000x"},
+                 {"\\u55295?\\u56320?x", "\uD7FF\uFFFDx"},
                  {"\\u-10179?x", "\uFFFDx"},
                  {"\\u-8704?x", "\uFFFDx"},
                  {"\\u-10179?\\u-10179?\\u-8704?", "\uFFFD😀"},
