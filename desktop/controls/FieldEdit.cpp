@@ -1,6 +1,8 @@
 #include "desktop/controls/FieldEdit.h"
 
 #include "desktop/controls/KeyEvents.h"
+#include "desktop/controls/Note.h"
+#include "desktop/controls/PasteReading.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
 
@@ -169,6 +171,7 @@ bool FieldEdit::pressInModel(const QKeyEvent& event) {
     if (isShortcut(event) || typed.isEmpty() || !(typed.front().isPrint() || typed == u"\b"))
         return false;
     const auto characters = typed.toUcs4();
+    const std::string before = box_.text();
     act([&](Program& program) {
         if (characters.size() == 1) {
             program.key(box_, {Key::Kind::character, static_cast<char32_t>(characters.front())});
@@ -176,6 +179,8 @@ bool FieldEdit::pressInModel(const QKeyEvent& event) {
             program.insertText(box_, typed.toStdString());
         }
     });
+    if (typed == u"," && box_.acceptable && box_.text() == before)
+        showNote(*this, rect(), QStringLiteral("El separador decimal es el punto"));
     return true;
 }
 
@@ -214,7 +219,9 @@ void FieldEdit::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void FieldEdit::pasteText(const QString& text) {
-    act([&](Program& program) { program.pasteText(box_, text.toStdString()); });
+    const auto read = pastedIntoField(text, *this);
+    if (read)
+        act([&](Program& program) { program.pasteText(box_, read->toStdString()); });
 }
 
 void FieldEdit::mouseReleaseEvent(QMouseEvent* event) {

@@ -9,6 +9,17 @@
 
 namespace caudalera {
 
+namespace {
+
+/// What is left of a text without case, accents and blanks around it.
+QString plainLetters(const QString& text) {
+    QString letters = text.trimmed().normalized(QString::NormalizationForm_D).toCaseFolded();
+    letters.removeIf([](QChar letter) { return letter.category() == QChar::Mark_NonSpacing; });
+    return letters;
+}
+
+} // namespace
+
 void TextView::sync() {
     ControlView::sync();
     edit_.sync();
@@ -47,8 +58,28 @@ void ListBox::sync() {
     setEditText(wanted);
 }
 
+void ListBox::settle() {
+    const QString typed = currentText();
+    if (findText(typed, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0)
+        return;
+    for (const std::string& item : list_.items()) {
+        if (plainLetters(toQString(item)) == plainLetters(typed)) {
+            // The keyboard is elsewhere by now, and stays there.
+            session_.act([&] { session_.program().act([&] { list_.choose(item); }); });
+            return;
+        }
+    }
+}
+
+void ListBox::focusOutEvent(QFocusEvent* event) {
+    if (event->reason() != Qt::PopupFocusReason)
+        settle();
+    QComboBox::focusOutEvent(event);
+}
+
 void ListBox::keyPressEvent(QKeyEvent* event) {
     if (isEnter(*event)) {
+        settle();
         session_.act([&] { session_.program().key(list_, {Key::Kind::enter}); });
         return;
     }

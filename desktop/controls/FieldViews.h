@@ -33,9 +33,13 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    /// Chooses the item that what was typed equals but for case, accents and blanks around.
+    void settle();
+
     Session& session_;
     List& list_;
 };

@@ -1,9 +1,10 @@
 // What a person does at a grid: keys, mouse, clipboard.
 #include "desktop/controls/KeyEvents.h"
+#include "desktop/controls/Note.h"
+#include "desktop/controls/PasteReading.h"
 #include "desktop/grid/GridEditor.h"
 #include "desktop/grid/GridView.h"
 #include "desktop/session/Session.h"
-#include "shell/worksheet/PastedBlock.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -175,17 +176,21 @@ void GridView::copy() const {
 void GridView::paste(const QString& text) {
     if (!editor_)
         return;
-    const PastedBlock block(text.toStdString());
+    PastedBlock block(text.toStdString());
+    std::string refusal;
     session_.act([&] {
-        Program& program = session_.program();
-        program.focus(grid_);
-        const std::string refusal = block.refusalFor(grid_);
-        if (refusal.empty()) {
-            block.enter(program, grid_);
-        } else {
+        session_.program().focus(grid_);
+        refusal = block.refusalFor(grid_);
+        if (!refusal.empty())
             session_.platform().showMessage({refusal, {}, Icon::information});
-        }
     });
+    if (!refusal.empty() || !settleCommas(block, *this))
+        return;
+    session_.act([&] { block.enter(session_.program(), grid_); });
+    if (block.hasHeadings() && !session_.program().ended())
+        showNote(*viewport(), visualRect(model_.indexOf(grid_.Row(), grid_.Col())),
+                 QStringLiteral("La primera fila no tiene números: se dejó fuera como "
+                                "encabezado."));
 }
 
 } // namespace caudalera

@@ -28,6 +28,12 @@ bool isInput(const QEvent& event) {
     }
 }
 
+/// The decimal key of the number pad where the layout writes a comma: numbers here have a point.
+bool isDecimalKeyWithComma(const QKeyEvent& key) {
+    return (key.modifiers() & Qt::KeypadModifier) &&
+           (key.key() == Qt::Key_Comma || key.text() == u",");
+}
+
 } // namespace
 
 void share(QWidget& widget, std::shared_ptr<const void> shown) {
@@ -165,6 +171,14 @@ bool Session::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
         platform_.openHelp();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
+        isDecimalKeyWithComma(*static_cast<QKeyEvent*>(event))) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        QKeyEvent point(key.type(), Qt::Key_Period, key.modifiers(), QStringLiteral("."),
+                        key.isAutoRepeat());
+        QCoreApplication::sendEvent(watched, &point);
         return true;
     }
     return QObject::eventFilter(watched, event);

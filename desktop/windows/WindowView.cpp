@@ -6,6 +6,7 @@
 #include "desktop/windows/CommandBar.h"
 #include "desktop/windows/LayoutBuilder.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -95,6 +96,9 @@ void WindowView::closeEvent(QCloseEvent* event) {
 bool WindowView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
         focused(watched, static_cast<QFocusEvent*>(event)->reason());
+    // What a widget does when it is left finds the model's keyboard at the next one already.
+    if (event->type() == QEvent::FocusOut)
+        focused(QApplication::focusWidget(), static_cast<QFocusEvent*>(event)->reason());
     return QWidget::eventFilter(watched, event);
 }
 

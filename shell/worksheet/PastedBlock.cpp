@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::string_view nothingPasted = "No se pegó nada: ";
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \r";
     const std::size_t first = text.find_first_not_of(blanks);
@@ -33,96 +29,88 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
     }
 }
 
-/// Takes the digits in front off the text.
-std::string_view takeDigits(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), isDigit);
-    const std::string_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
-    text.remove_prefix(digits.size());
-    return digits;
-}
-
-/// Takes the integer part off the text: digits, or groups of three behind points.
-std::string takeGroupedDigits(std::string_view& text) {
-    std::string digits(takeDigits(text));
-    const bool mayGroup = !digits.empty() && digits.size() <= 3;
-    while (mayGroup && text.size() > 3 && text[0] == '.' &&
-           std::all_of(text.begin() + 1, text.begin() + 4, isDigit)) {
-        digits += text.substr(1, 3);
-        text.remove_prefix(4);
-    }
-    return digits;
-}
-
-bool isExponent(std::string_view text) {
-    if (text.empty() || std::string_view("eEdD").find(text[0]) == std::string_view::npos)
-        return false;
-    text.remove_prefix(1);
-    if (!text.empty() && (text[0] == '+' || text[0] == '-'))
-        text.remove_prefix(1);
-    return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
-}
-
-/// The number that the whole cell is, with a decimal point; empty if it is none.
-std::string numberOf(std::string_view cell, char decimal) {
-    std::string number;
-    if (!cell.empty() && (cell[0] == '-' || cell[0] == '+')) {
-        if (cell[0] == '-')
-            number = "-";
-        cell.remove_prefix(1);
-    }
-    const std::string whole =
-        decimal == ',' ? takeGroupedDigits(cell) : std::string(takeDigits(cell));
-    number += whole;
-    std::string_view decimals;
-    if (!cell.empty() && cell[0] == decimal) {
-        cell.remove_prefix(1);
-        decimals = takeDigits(cell);
-        (number += '.') += decimals;
-    }
-    if (whole.empty() && decimals.empty())
-        return {};
-    if (!cell.empty() && !isExponent(cell))
-        return {};
-    return number += cell;
+/// Whether a row has no number in it by either sign.
+bool isHeading(const std::vector<std::string_view>& row) {
+    return std::all_of(row.begin(), row.end(), [](std::string_view cell) {
+        return foreignNumber(cell, DecimalSign::point).empty() &&
+               foreignNumber(cell, DecimalSign::comma).empty();
+    });
 }
 
 } // namespace
 
 PastedBlock::PastedBlock(std::string_view text) {
-    std::vector<std::vector<std::string_view>> cells;
-    std::size_t width = 0;
+    std::vector<std::vector<std::string_view>> lines;
     for (const std::string_view line : split(text, '\n')) {
-        cells.push_back(split(line, '\t'));
-        for (std::string_view& cell : cells.back())
+        lines.push_back(split(line, '\t'));
+        for (std::string_view& cell : lines.back())
             cell = trimmed(cell);
-        width = std::max(width, cells.back().size());
     }
-    if (cells.back().size() == 1 && cells.back().front().empty())
-        cells.pop_back();
+    if (lines.back().size() == 1 && lines.back().front().empty())
+        lines.pop_back();
+    for (const auto& line : lines)
+        columns_ = std::max(columns_, line.size());
+    headings_ = lines.size() > 1 && isHeading(lines.front());
+    if (headings_)
+        lines.erase(lines.begin());
+    for (auto& line : lines) {
+        line.resize(columns_);
+        cells_.emplace_back(line.begin(), line.end());
+    }
+    chooseSign();
+}
 
-    // The separator by which more of it reads as numbers, so that a refusal names the cell that is
+void PastedBlock::chooseSign() {
+    const bool hasComma = std::any_of(cells_.begin(), cells_.end(), [](const auto& row) {
+        return std::any_of(row.begin(), row.end(), [](const std::string& cell) {
+            return cell.find(',') != std::string::npos;
+        });
+    });
+    const auto points = unread(DecimalSign::point);
+    const auto commas = unread(DecimalSign::comma);
+    if (points == 0 && commas == 0 && hasComma)
+        findExample();
+    // Where both fail, the sign by which more is read, so that the refusal names a cell that is
     // wrong by either.
-    const auto unread = [&cells](char decimal) {
-        std::ptrdiff_t count = 0;
-        for (const auto& row : cells) {
-            count += std::count_if(row.begin(), row.end(), [decimal](std::string_view cell) {
-                return numberOf(cell, decimal).empty();
-            });
+    read(commas < points || (commas == points && example_) ? DecimalSign::comma
+                                                           : DecimalSign::point);
+}
+
+std::ptrdiff_t PastedBlock::unread(DecimalSign sign) const {
+    std::ptrdiff_t count = 0;
+    for (const auto& row : cells_)
+        count += std::count_if(row.begin(), row.end(), [sign](const std::string& cell) {
+            return foreignNumber(cell, sign).empty();
+        });
+    return count;
+}
+
+void PastedBlock::findExample() {
+    for (const auto& row : cells_) {
+        for (const std::string& cell : row) {
+            const std::string withPoint = foreignNumber(cell, DecimalSign::point);
+            const std::string withComma = foreignNumber(cell, DecimalSign::comma);
+            if (!example_ && withPoint != withComma)
+                example_ = Example{cell, withPoint, withComma};
         }
-        return count;
-    };
-    const bool hasComma = text.find(',') != std::string_view::npos;
-    const bool commas = hasComma && (unread(',') == 0 || unread(',') < unread('.'));
-    for (std::size_t i = 0; i < cells.size(); ++i) {
-        cells[i].resize(width);
+    }
+}
+
+void PastedBlock::read(DecimalSign sign) {
+    rows_.clear();
+    refusal_.clear();
+    for (std::size_t i = 0; i < cells_.size(); ++i) {
         std::vector<std::string>& row = rows_.emplace_back();
-        for (std::size_t j = 0; j < width; ++j) {
-            row.push_back(numberOf(cells[i][j], commas ? ',' : '.'));
-            if (row.back().empty() && refusal_.empty()) {
-                refusal_ = std::string(nothingPasted) + "el dato de la fila " +
-                           std::to_string(i + 1) + ", columna " + std::to_string(j + 1) +
-                           " no es un número: «" + std::string(cells[i][j]) + "»";
-            }
+        for (std::size_t j = 0; j < columns_; ++j) {
+            const std::string& cell = cells_[i][j];
+            row.push_back(foreignNumber(cell, sign));
+            if (!row.back().empty() || !refusal_.empty())
+                continue;
+            const std::string place = " de la fila " + std::to_string(i + (headings_ ? 2 : 1)) +
+                                      ", columna " + std::to_string(j + 1);
+            refusal_ = std::string(nothingPasted) +
+                       (cell.empty() ? "la celda" + place + " está vacía"
+                                     : "el dato" + place + " no es un número: «" + cell + "»");
         }
     }
 }
@@ -177,8 +165,8 @@ void PastedBlock::enter(Program& program, MSFlexGrid& grid) const {
 
 std::string numberAsPasted(std::string_view text) {
     const PastedBlock block(text);
-    const bool isNumber =
-        block.refusal().empty() && block.rows().size() == 1 && block.columns() == 1;
+    const bool isNumber = block.refusal().empty() && block.rows().size() == 1 &&
+                          block.columns() == 1 && !block.hasHeadings();
     return isNumber ? block.rows().front().front() : std::string(text);
 }
 

@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QPushButton>
+#include <QToolTip>
 
 namespace caudalera {
 
@@ -166,13 +168,71 @@ private slots:
         QCOMPARE(shown(), QStringLiteral("0.45"));
     }
 
-    void aFieldOfAnyTextTakesAPasteAsItStands() {
+    void aNumberPastedIntoAnyFieldIsReadAndAnyOtherTextIsNot() {
         use("frmPenman", "txth");
         paste("1,5 m");
         QCOMPARE(shown(), QStringLiteral("1,5 m"));
         field().selectAll();
         paste("1,5");
+        QCOMPARE(shown(), QStringLiteral("1.5"));
+        field().selectAll();
+        paste("12,345.5");
+        QCOMPARE(shown(), QStringLiteral("12345.5"));
+    }
+
+    void aCommaThatNothingDecidesIsAskedFor() {
+        use("frmPenman", "txth");
+        const auto ask = [this](const char* button) {
+            desktop_->expectBox(
+                {QStringLiteral("¿Qué número es «1,234»?"), QStringLiteral("Pegar"),
+                 QMessageBox::Question},
+                [button] {
+                    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                    box->findChild<QPushButton*>(QString::fromUtf8(button))->click();
+                });
+            field().selectAll();
+            pasteIntoField(QStringLiteral("1,234"));
+        };
+        ask("decimales");
+        QCOMPARE(shown(), QStringLiteral("1.234"));
+        ask("miles");
+        QCOMPARE(shown(), QStringLiteral("1234"));
+        desktop_->expectBox({QStringLiteral("¿Qué número es «9,876»?"), QStringLiteral("Pegar"),
+                             QMessageBox::Question});
+        field().selectAll();
+        pasteIntoField(QStringLiteral("9,876"));
+        QCOMPARE(shown(), QStringLiteral("1234"));
+    }
+
+    void aRefusedCommaSaysThatThePointIsTheDecimalSign() {
+        use("frmQmaxRacional", "txtaq");
+        desktop_->type("1");
+        QVERIFY(QToolTip::text().isEmpty());
+        desktop_->type(",");
+        QCOMPARE(shown(), QStringLiteral("1"));
+        QCOMPARE(QToolTip::text(), QStringLiteral("El separador decimal es el punto"));
+    }
+
+    void aCommaThatAFieldTakesSaysNothing() {
+        QToolTip::hideText();
+        use("frmPenman", "txth");
+        desktop_->type("1,5");
         QCOMPARE(shown(), QStringLiteral("1,5"));
+        QTRY_VERIFY(QToolTip::text().isEmpty());
+    }
+
+    void theDecimalKeyOfTheNumberPadTypesThePoint() {
+        use("frmQmaxRacional", "txtaq");
+        desktop_->type("1");
+        QTest::keyClick(&field(), Qt::Key_Comma, Qt::KeypadModifier);
+        desktop_->type("5");
+        QCOMPARE(shown(), QStringLiteral("1.5"));
+        desktop_->open("frmParamEsta");
+        desktop_->type("2");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Comma, Qt::KeypadModifier);
+        desktop_->type("5");
+        desktop_->press(Qt::Key_Return);
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|2.5"));
     }
 
     void aNumberPastedIntoTheOpenEditBoxKeepsItsDecimals() {
@@ -223,6 +283,11 @@ private:
     static void paste(const QString& text) {
         QGuiApplication::clipboard()->setText(text);
         DesktopFixture::press(Qt::Key_V, Qt::ControlModifier);
+    }
+    /// Also while no window has the keyboard, as it is right behind a box.
+    void pasteIntoField(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keyClick(&field(), Qt::Key_V, Qt::ControlModifier);
     }
     void commit(const QString& text) {
         QInputMethodEvent event;

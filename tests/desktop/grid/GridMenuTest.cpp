@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QPushButton>
+#include <QToolTip>
 
 namespace caudalera {
 
@@ -79,6 +81,37 @@ private slots:
         paste("1,5\t1.234,5\n-0,25\t12");
         QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|1234.5"));
         QCOMPARE(desktop_->row(2), QStringLiteral(" 2|-0.25|12.0"));
+    }
+
+    void commasThatNothingDecidesAreAskedForOnceABlock() {
+        const auto ask = [this](const char* button) {
+            desktop_->expectBox(
+                {QStringLiteral("¿Qué número es «1,234»?"), QStringLiteral("Pegar"),
+                 QMessageBox::Question},
+                [button] {
+                    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                    auto* choice = box->findChild<QPushButton*>(QString::fromUtf8(button));
+                    if (choice)
+                        choice->click();
+                });
+            QGuiApplication::clipboard()->setText(QStringLiteral("1,234\t5,678\n"));
+            QTest::keyClick(&desktop_->gridView(), Qt::Key_V, Qt::ControlModifier);
+        };
+        ask("cancelado");
+        QCOMPARE(desktop_->row(1), QStringLiteral("[?]||"));
+        ask("miles");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1234.0|5678.0"));
+        ask("decimales");
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|1.234|5.678"));
+    }
+
+    void headingsAreLeftOutAndThatIsSaid() {
+        QVERIFY(QToolTip::text().isEmpty());
+        paste("Nivel\tCaudal\n1,5\t2\n");
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|2.0"));
+        QCOMPARE(desktop_->grid().Rows(), 3L);
+        QCOMPARE(QToolTip::text(), QStringLiteral("La primera fila no tiene números: se dejó "
+                                                  "fuera como encabezado."));
     }
 
     void aBlockWithAWordIsRefusedWhole() {

@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -222,6 +223,37 @@ private slots:
         QTest::keyClicks(&list, "Mayx");
         QCOMPARE(listText("cobMes"), QStringLiteral("Mayx"));
         QCOMPARE(list.currentText(), QStringLiteral("Mayx"));
+    }
+
+    void whatEqualsAnItemButForCaseAndAccentsBecomesItWhenTheListIsLeft() {
+        desktop_->open("frmPenman");
+        auto& list = desktop_->widget<QComboBox>("cobMes");
+        const auto type = [&](const QString& text) {
+            list.setFocus();
+            list.lineEdit()->selectAll();
+            for (const QChar letter : text) {
+                QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, letter);
+                QApplication::sendEvent(&list, &key);
+            }
+        };
+        type("  márzo ");
+        QCOMPARE(listText("cobMes"), QStringLiteral("  márzo "));
+        desktop_->press(Qt::Key_Tab);
+        QCOMPARE(listText("cobMes"), QStringLiteral("Marzo"));
+        QCOMPARE(list.currentText(), QStringLiteral("Marzo"));
+        QVERIFY(QApplication::focusWidget() != &list);
+        type("ABRIL");
+        desktop_->press(Qt::Key_Return);
+        QCOMPARE(listText("cobMes"), QStringLiteral("Abril"));
+        type("mayo");
+        QTest::mouseClick(&desktop_->widget<QLineEdit>("txtLatitud"), Qt::LeftButton);
+        QCOMPARE(listText("cobMes"), QStringLiteral("Mayo"));
+        QCOMPARE(QApplication::focusWidget(), &desktop_->widget<QLineEdit>("txtLatitud"));
+        QCOMPARE(desktop_->window().focus(), &desktop_->control<TextBox>("txtLatitud"));
+        // No other text is changed.
+        type("may");
+        desktop_->press(Qt::Key_Tab);
+        QCOMPARE(listText("cobMes"), QStringLiteral("may"));
     }
 
     void aTabComesForwardInModelAndView() {
