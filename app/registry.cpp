@@ -19,6 +19,8 @@
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
 #include "shell/report/frmPadre.h"
+#include "stats/frmDistriFre.h"
+#include "stats/frmParEstAgru.h"
 #include "stats/frmParamEsta.h"
 
 namespace caudalera {
@@ -38,6 +40,8 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmPadre", create<frmPadre>},
         {"frmacerc", create<frmacerc>},
         {"frmParamEsta", create<frmParamEsta>},
+        {"frmParEstAgru", create<frmParEstAgru>},
+        {"frmDistriFre", create<frmDistriFre>},
         {"frmRegreLineal", create<frmRegreLineal>},
         {"frmEjRegSimple", create<frmEjRegSimple>},
         {"frmRegMul2Var", create<frmRegMul2Var>},
