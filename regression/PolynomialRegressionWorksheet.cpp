@@ -2,6 +2,7 @@
 
 #include "regression/ajusteMultiple.h"
 #include "regression/textosRegresion.h"
+#include "shell/worksheet/Messages.h"
 
 #include <cstddef>
 #include <utility>
@@ -109,7 +110,7 @@ void PolynomialRegressionWorksheet::calcularY() {
 }
 
 void PolynomialRegressionWorksheet::graficar() {
-    if (!hayCalculo(calculado, sinTitulo("Ejecutar cálculos antes de graficar")))
+    if (!hayCalculo(calculado, sinTitulo(mensajeGraficoSinEjecutar)))
         return;
     Chart grafico;
     grafico.style = 1;

@@ -1,5 +1,7 @@
 #include "stats/frmDistriFre.h"
 
+#include "shell/worksheet/Messages.h"
+
 #include <cstddef>
 #include <initializer_list>
 #include <utility>
@@ -80,10 +82,9 @@ void frmDistriFre::graficar() {
 
 void frmDistriFre::dibujarFuncion(std::string rotulo, Real Frecuencia::*funcion) {
     lblFuncion.caption = std::move(rotulo);
-    if (!hayCalculo(calculado, {"Ejecutar cálculos antes de graficar", "Mensaje de Error",
-                                Icon::information}) ||
-        !hayPuntos(numClases(),
-                   {"Para graficar se requiere por lo menos dos puntos", "Error", Icon::none}))
+    if (!hayCalculo(calculado,
+                    {mensajeGraficoSinEjecutar, "Mensaje de Error", Icon::information}) ||
+        !hayPuntos(numClases(), graficoDeDosPuntos(Icon::none)))
         return;
     // The curve begins at the origin.
     std::vector<double> x{0};
