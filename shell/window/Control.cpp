@@ -102,10 +102,10 @@ void TextBox::edit(std::string_view text) {
 }
 
 List::List(Window& window, const std::string& name, std::vector<std::string> items,
-           std::string start, const std::string& labelText)
+           std::string start, const std::string& labelText, const std::string& unitText)
     : Control(window, name, ControlKind::list),
       label_(attachedLabel(window, name + ".rótulo", labelText)), items_(std::move(items)),
-      text_(std::move(start)) {}
+      text_(std::move(start)), unit_(attachedLabel(window, name + ".unidad", unitText)) {}
 
 void List::choose(std::string text) {
     text_ = std::move(text);

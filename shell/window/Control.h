@@ -221,11 +221,11 @@ private:
     std::unique_ptr<Label> unit_;
 };
 
-/// A drop-down list that can also be typed into.
+/// A drop-down list that can also be typed into, with its label and unit as labels of their own.
 class List : public Control {
 public:
     List(Window& window, const std::string& name, std::vector<std::string> items, std::string start,
-         const std::string& labelText = {});
+         const std::string& labelText = {}, const std::string& unitText = {});
 
     const std::vector<std::string>& items() const { return items_; }
     const std::string& text() const { return text_; }
@@ -236,6 +236,7 @@ public:
     void type(char32_t character);
 
     Label* label() const { return label_.get(); }
+    Label* unit() const { return unit_.get(); }
     std::function<void()> onChange;
     std::function<void()> onEnter;
     /// Characters that it should show without scrolling; 0 for its longest item.
@@ -245,6 +246,7 @@ private:
     std::unique_ptr<Label> label_;
     std::vector<std::string> items_;
     std::string text_;
+    std::unique_ptr<Label> unit_;
 };
 
 } // namespace caudalera

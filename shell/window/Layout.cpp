@@ -6,7 +6,7 @@ namespace caudalera {
 
 Layout::FieldLine::FieldLine(TextBox& box) : label(box.label()), fields{&box}, unit(box.unit()) {}
 
-Layout::FieldLine::FieldLine(List& list) : label(list.label()), fields{&list} {}
+Layout::FieldLine::FieldLine(List& list) : label(list.label()), fields{&list}, unit(list.unit()) {}
 
 namespace layout {
 

@@ -45,6 +45,7 @@ public:
                 keepTogether(*box, box->unit(), all);
             } else if (const auto* list = dynamic_cast<const List*>(control)) {
                 keepTogether(*list, list->label(), all);
+                keepTogether(*list, list->unit(), all);
             }
         }
         return all;
