@@ -67,6 +67,10 @@ std::span<const float> SeriesFile::read() {
     return record_;
 }
 
+void SeriesFile::goTo(long record) {
+    stream_.seekg(static_cast<std::streamoff>(4 * record_.size()) * (record - 1));
+}
+
 void SeriesFile::write(std::span<const float> record) {
     for (const float field : record) {
         const auto bytes = toBytes(field);

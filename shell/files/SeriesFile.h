@@ -28,6 +28,8 @@ public:
     Integer16 records() const;
     /// The next record, which stands until another is read. Failure 75 at the end.
     std::span<const float> read();
+    /// Makes a record, counted from 1, the next one to read.
+    void goTo(long record);
     /// Appends a record.
     void write(std::span<const float> record);
     /// Frees number 1 and puts what was written in the place of the file; failure 75 if the disk

@@ -86,6 +86,12 @@ void Worksheet::cargarRegistros(SeriesFile& archivo) {
     if (datos < 0)
         throw RuntimeFailure(Failure::index);
     grdt.setRows(datos + 2);
+    // It may bring what the labels of the rows count from.
+    if (formatoSerie_.lastRecord) {
+        archivo.goTo(datos + 1);
+        recibirUltimoRegistro(archivo.read());
+        archivo.goTo(1);
+    }
     for (long i = 1; i <= datos; ++i) {
         const auto registro = archivo.read();
         grdt.setTextMatrix(i, 0, etiquetaFila(i));
@@ -95,11 +101,6 @@ void Worksheet::cargarRegistros(SeriesFile& archivo) {
                                formatear(static_cast<float>(valor.value()), formatoSerie_.mask));
         }
     }
-    if (!formatoSerie_.lastRecord)
-        return;
-    recibirUltimoRegistro(archivo.read());
-    // The record may have brought what the labels count from.
-    renumerarFilas();
 }
 
 } // namespace caudalera

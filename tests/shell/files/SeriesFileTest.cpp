@@ -52,6 +52,18 @@ TEST_F(SeriesFileTest, ReadingGivesTheSameRecordsInOrder) {
     EXPECT_EQ(failureNumber([&] { file.read(); }), 75);
 }
 
+TEST_F(SeriesFileTest, AnyRecordCanBeTheNextOne) {
+    save(2, {1, 2, 3, 4, 5, 6});
+    SeriesFile file = opened(2);
+    for (const long record : {3L, 1L, 2L}) {
+        file.goTo(record);
+        EXPECT_EQ(file.read().back(), static_cast<float>(2 * record));
+    }
+    EXPECT_EQ(file.read().back(), 6) << "and those behind it follow";
+    file.goTo(4);
+    EXPECT_EQ(failureNumber([&] { file.read(); }), 75);
+}
+
 TEST_F(SeriesFileTest, OneFileReadsInRecordsOfAnyWidth) {
     save(1, {1, 2, 3, 4});
     for (const int fields : {1, 2, 4}) {
