@@ -1,5 +1,6 @@
 #include "peakflow/frmQmaxRacional.h"
 
+#include "peakflow/caudalRacional.h"
 #include "peakflow/coeficientesEscorrentia.h"
 #include "shell/text/Text.h"
 
@@ -50,10 +51,7 @@ std::vector<RainfallFlowWindow::CampoDeQ> frmQmaxRacional::camposDeQ() {
 }
 
 Real frmQmaxRacional::caudal() const {
-    const Real C = Val(txtcq.text());
-    const Real A = Val(txtaq.text());
-    const Real I = Val(txtiq.text());
-    return ((C * I) * A) / 360;
+    return caudalRacional(Val(txtcq.text()), Val(txtiq.text()), Val(txtaq.text()));
 }
 
 bool frmQmaxRacional::grupoCompleto() {

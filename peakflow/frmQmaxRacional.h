@@ -13,8 +13,6 @@ public:
 
 protected:
     std::vector<CampoDeQ> camposDeQ() override;
-    /// Q = C I A / 360, the intensity in mm/hr and the area in hectares. Source: Mulvany (1851),
-    /// in metric units.
     Real caudal() const override;
     bool grupoCompleto() override;
     Grupo describirGrupo() const override;

@@ -86,8 +86,10 @@ TEST(RunoffCoefficients, ABoundaryBelongsToTheLowerSlope) {
     };
     EXPECT_EQ(C(0), 0.10);
     EXPECT_EQ(C(5), 0.10);
+    EXPECT_EQ(C(5.0001), 0.25);
     EXPECT_EQ(C(5.01), 0.25);
     EXPECT_EQ(C(10), 0.25);
+    EXPECT_EQ(C(10.0001), 0.30);
     EXPECT_EQ(C(10.5), 0.30);
     EXPECT_EQ(C(1e6), 0.30);
 }

@@ -17,12 +17,14 @@ protected:
 };
 
 // 0.5 * 100 * 36 / 360 = 5 exactly. 0.3 * 107.69 * 12.5 / 360 = 403.8375 / 360 = 1.1217708...
-// 0.25 * 6 * 1 / 360 = 1.5 / 360 = 0.0041666...; 1.5 * 1 * 120 / 360 = 0.5.
+// 0.25 * 6 * 1 / 360 = 1.5 / 360 = 0.0041666...; 1.5 * 1 * 120 / 360 = 0.5. In the
+// last one, 10^6, every digit of the divisor counts.
 TEST_F(RacionalFlowTest, IsShownWithOneToThreeDecimals) {
     EXPECT_EQ(flow("0.5", "100", "36"), "5.0");
     EXPECT_EQ(flow("0.3", "107.69", "12.5"), "1.122");
     EXPECT_EQ(flow("0.25", "6", "1"), "0.004");
     EXPECT_EQ(flow("1.5", "1", "120"), "0.50");
+    EXPECT_EQ(flow("1", "3600", "100000"), "1000000.0");
     EXPECT_TRUE(messages().empty());
 }
 

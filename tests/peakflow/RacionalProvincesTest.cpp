@@ -69,6 +69,8 @@ TEST_F(RacionalProvincesTest, TakeTheConcentrationTimeToo) {
 TEST_F(RacionalProvincesTest, TakeReturnPeriodsUpTo200) {
     EXPECT_EQ(intensity("optSanJose", "10", "200"), "10.0|171.44|171.44");
     EXPECT_TRUE(messages().empty());
+    EXPECT_EQ(intensity("optSanJose", "20", "200.001"), "10.0|171.44|171.44");
+    EXPECT_EQ(messages().size(), 1U);
     EXPECT_EQ(intensity("optSanJose", "20", "200.5"), "10.0|171.44|171.44");
     expectMessage({"Para este método el período de retorno T no puede ser mayor de 200", "Error"});
     EXPECT_EQ(text("txtTi"), "");
