@@ -9,6 +9,7 @@
 #include "fitting/frmDisLogNormal3.h"
 #include "fitting/frmDisLogPearson3.h"
 #include "fitting/frmDisNormal.h"
+#include "peakflow/frmQmaxMacMath.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
 #include "regression/frmRegMul2Var.h"
@@ -57,6 +58,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
+        {"frmQmaxMacMath", create<frmQmaxMacMath>},
         {"frmPenman", create<frmPenman>},
     };
     return entries;

@@ -32,7 +32,7 @@ RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::
     lblZonasNoUrbanas.heading = true;
     for (TextBox* resultado : {&txtqmax, &txtgrupo, &txtCponderado, &txtatotal})
         resultado->result = true;
-    grdC.columnWidths = {900, 1200, 3400, 2000, 1300, 900};
+    grdC.columnWidths = textos_.anchosGrupos;
     grdC.visibleRows = 10;
 
     soloNumeros(

@@ -18,10 +18,13 @@ struct RainfallFlowTexts {
     std::string rotuloAreaGrupo;
     std::vector<std::string> coberturas;
     std::string coberturaInicial;
+    /// Empty for none.
+    std::string unidadCobertura;
     std::vector<std::string> texturas;
     std::string texturaInicial;
     /// Headers of `grdC`.
     std::vector<std::string> encabezadosGrupos;
+    std::vector<int> anchosGrupos;
     /// Title, length of the rules and heading row of the groups' table in the report, and the
     /// widths of the columns behind the first.
     std::string tituloReporte;
@@ -59,8 +62,9 @@ public:
     TextBox txtgrupo{*this, "txtgrupo", "Grupo N°:"};
     TextBox txtac{*this, "txtac", textos_.rotuloAreaGrupo, "has"};
     Label lblZonasNoUrbanas{*this, "lblZonasNoUrbanas", "Zonas no urbanas:"};
-    List cboCobertura{*this, "cboCobertura", textos_.coberturas, textos_.coberturaInicial,
-                      "Cobertura:"};
+    List cboCobertura{
+        *this,        "cboCobertura",         textos_.coberturas, textos_.coberturaInicial,
+        "Cobertura:", textos_.unidadCobertura};
     List cboTextura{*this, "cboTextura", textos_.texturas, textos_.texturaInicial, "Textura:"};
     TextBox txts{*this, "txts", "Pendiente", "%"};
     Button bAgregar{*this, "bAgregar", "&Agregar"};
