@@ -9,7 +9,9 @@
 #include "fitting/frmDisLogNormal3.h"
 #include "fitting/frmDisLogPearson3.h"
 #include "fitting/frmDisNormal.h"
+#include "peakflow/frmQmaxGumbel.h"
 #include "peakflow/frmQmaxMacMath.h"
+#include "peakflow/frmQmaxNash.h"
 #include "peakflow/frmQmaxRacional.h"
 #include "regression/frmEjRegSimple.h"
 #include "regression/frmRegMul2Var.h"
@@ -59,6 +61,8 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmQmaxMacMath", create<frmQmaxMacMath>},
+        {"frmQmaxGumbel", create<frmQmaxGumbel>},
+        {"frmQmaxNash", create<frmQmaxNash>},
         {"frmPenman", create<frmPenman>},
     };
     return entries;
