@@ -1,6 +1,6 @@
 #include "fitting/logNormal2.h"
 
-#include "fitting/aproximacionNormal.h"
+#include "shell/numbers/aproximacionNormal.h"
 #include "shell/numbers/logaritmos.h"
 #include "shell/numbers/momentos.h"
 

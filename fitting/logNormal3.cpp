@@ -1,6 +1,6 @@
 #include "fitting/logNormal3.h"
 
-#include "fitting/aproximacionNormal.h"
+#include "shell/numbers/aproximacionNormal.h"
 #include "shell/numbers/momentos.h"
 
 #include <vector>

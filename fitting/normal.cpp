@@ -1,6 +1,6 @@
 #include "fitting/normal.h"
 
-#include "fitting/aproximacionNormal.h"
+#include "shell/numbers/aproximacionNormal.h"
 #include "shell/numbers/momentos.h"
 
 namespace caudalera {

@@ -1,4 +1,4 @@
-#include "fitting/aproximacionNormal.h"
+#include "shell/numbers/aproximacionNormal.h"
 
 namespace caudalera {
 

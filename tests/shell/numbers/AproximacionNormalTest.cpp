@@ -1,6 +1,6 @@
 // The two normal routines against printed tables and the errors that their source states.
 
-#include "fitting/aproximacionNormal.h"
+#include "shell/numbers/aproximacionNormal.h"
 #include "tests/support/FailureNumber.h"
 
 #include <cmath>
