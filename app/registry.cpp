@@ -1,5 +1,7 @@
 #include "app/registry.h"
 
+#include "curves/frmCurvaDuracion.h"
+#include "curves/frmVariacionEsta.h"
 #include "evapotranspiration/frmPenman.h"
 #include "fitting/frmDisGamma2par.h"
 #include "fitting/frmDisGamma3par.h"
@@ -59,6 +61,8 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisLogPearson3", create<frmDisLogPearson3>},
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
+        {"frmVariacionEsta", create<frmVariacionEsta>},
+        {"frmCurvaDuracion", create<frmCurvaDuracion>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmQmaxMacMath", create<frmQmaxMacMath>},
         {"frmQmaxGumbel", create<frmQmaxGumbel>},
