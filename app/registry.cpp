@@ -11,6 +11,7 @@
 #include "fitting/frmDisLogNormal3.h"
 #include "fitting/frmDisLogPearson3.h"
 #include "fitting/frmDisNormal.h"
+#include "gauging/frmAforoCorren.h"
 #include "peakflow/frmQmaxGumbel.h"
 #include "peakflow/frmQmaxMacMath.h"
 #include "peakflow/frmQmaxNash.h"
@@ -63,6 +64,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
         {"frmVariacionEsta", create<frmVariacionEsta>},
         {"frmCurvaDuracion", create<frmCurvaDuracion>},
+        {"frmAforoCorren", create<frmAforoCorren>},
         {"frmQmaxRacional", create<frmQmaxRacional>},
         {"frmQmaxMacMath", create<frmQmaxMacMath>},
         {"frmQmaxGumbel", create<frmQmaxGumbel>},
