@@ -45,7 +45,8 @@ void frmCurvaDuracion::disponer() {
     grddis.columnWidths[numero] = 800;
     grddis.columnAlignments.assign(numColumnas, MSFlexGrid::ColumnAlignment::center);
     grddis.visibleRows = 8;
-    txtxq.width = 14;
+    for (TextBox* campo : {&txtxp, &txtxq})
+        campo->width = 14;
     layout = row({
         ingreso.columna(grdt),
         column({control(grddis),

@@ -174,6 +174,21 @@ private slots:
         QVERIFY(plot->yAxis->range().lower >= 0);
     }
 
+    /// The bed of a river, of which the water line is seen with its vertical banks.
+    void whatHangsFromZeroShowsTheLineAtZero() {
+        Chart chart;
+        chart.x = std::vector<double>{0, 0, 2, 5, 6, 6};
+        chart.series = {{"", {0, -0.5, -1, -2, -0.5, 0}}};
+        show(chart);
+        const QCPRange height = plot->yAxis->range();
+        QVERIFY(height.lower < -2 && height.upper > 0 && height.upper < 0.5);
+        QVERIFY(!plot->yAxis->rangeReversed());
+        QVERIFY(plot->yAxis->grid()->zeroLinePen() != plot->yAxis->grid()->pen());
+        QVERIFY(labels(plot->yAxis).contains(QStringLiteral("0")));
+        const auto* curve = qobject_cast<QCPCurve*>(plot->plottable(0));
+        QCOMPARE(curve->data()->size(), 6);
+    }
+
     void equalValuesStillGetARange() {
         Chart chart;
         chart.series = {{"", {4, 4, 4}}};
