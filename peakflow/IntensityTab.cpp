@@ -12,7 +12,6 @@ namespace caudalera {
 namespace {
 
 constexpr const char* tituloError = "Error";
-constexpr const char* mascaraEcuacion = "#####0.##00";
 constexpr float periodoMaximo = 200;
 
 } // namespace
@@ -196,23 +195,19 @@ bool IntensityTab::intensidadDeRegistros() {
     hoja_.leerCuadricula();
     if (hoja_.n < minimoTrios) {
         hoja_.mensaje(mensajeCuatroTrios, {}, Icon::error);
-        hoja_.grdt.setCol(1);
-        hoja_.grdt.setRow(hoja_.filaDeAlta());
-        ventana_.setFocus(hoja_.grdt);
+        hoja_.irAFilaDeAlta();
         return true;
     }
-    std::vector<TrioIntensidad> trios;
-    for (long i = 1; i <= hoja_.n; ++i)
-        trios.push_back({T_[i], D_[i], Imax_[i]});
-    const auto ajuste = ajustePotencial(trios);
+    const auto ajuste = ajustePotencial(
+        enTrios(T_.primeros(hoja_.n), D_.primeros(hoja_.n), Imax_.primeros(hoja_.n)));
     if (!ajuste) {
         hoja_.mensaje(mensajeSistemaSingular, {}, Icon::error);
         return false;
     }
     intensidad_ = ajuste->intensidad(Real(periodo_), duracion_);
-    txtecuacioni.setText("Imáx = " + hoja_.formatear(ajuste->K, mascaraEcuacion) + "*T^(" +
-                         hoja_.formatear(ajuste->m, mascaraEcuacion) + ") *D^(" +
-                         hoja_.formatear(ajuste->n, mascaraEcuacion) + ")");
+    txtecuacioni.setText(textoPotencial(hoja_.formatear(ajuste->K, mascaraPotencial),
+                                        hoja_.formatear(ajuste->m, mascaraPotencial),
+                                        hoja_.formatear(ajuste->n, mascaraPotencial)));
     mostrarEcuacion(true);
     return true;
 }

@@ -104,16 +104,25 @@ void Worksheet::marcarFilaDeAlta(const char* marcador) {
 
 void Worksheet::leerCuadricula() {
     n = contarFilas();
-    for (long i = 1; i <= n; ++i) {
-        for (std::size_t columna = 0; columna < columnas.size(); ++columna) {
-            const Real valor = valorCelda(i, static_cast<long>(columna) + 1);
-            if (Serie* const* serie = std::get_if<Serie*>(&columnas[columna])) {
-                (**serie)[i] = valor;
-            } else {
-                (*std::get<SerieSimple*>(columnas[columna]))[i] = toSingle(valor);
-            }
+    for (long i = 1; i <= n; ++i)
+        leerFila(i);
+}
+
+void Worksheet::leerFila(long fila) {
+    for (std::size_t columna = 0; columna < columnas.size(); ++columna) {
+        const Real valor = valorCelda(fila, static_cast<long>(columna) + 1);
+        if (Serie* const* serie = std::get_if<Serie*>(&columnas[columna])) {
+            (**serie)[fila] = valor;
+        } else {
+            (*std::get<SerieSimple*>(columnas[columna]))[fila] = toSingle(valor);
         }
     }
+}
+
+void Worksheet::irAFilaDeAlta() {
+    grdt.setCol(1);
+    grdt.setRow(filaDeAlta());
+    setFocus(grdt);
 }
 
 Real Worksheet::valorCelda(long fila, long columna) const {

@@ -53,6 +53,8 @@ protected:
     /// Sets `n` and fills the arrays with the numeric reading of the cells, row by row; failure 9
     /// past their capacity.
     virtual void leerCuadricula();
+    /// One row of it, for what is computed row by row.
+    void leerFila(long fila);
     /// Text of the fixed cell of a data row: its number, where a window gives no other.
     virtual std::string etiquetaFila(long fila) const;
     /// Labels the data rows anew; the append row keeps its mark.
@@ -74,6 +76,8 @@ protected:
     long filasDelReporte() const override { return grdt.Rows() - 2; }
     /// Rows of data, read from the grid as a 16-bit count.
     Integer16 contarFilas() const { return grdt.Rows() - 2; }
+    /// Puts the cursor on the first free cell of `grdt`.
+    void irAFilaDeAlta();
     /// Numeric reading of a cell of `grdt`.
     Real valorCelda(long fila, long columna) const;
 

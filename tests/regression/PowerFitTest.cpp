@@ -69,6 +69,55 @@ TEST(PowerFit, TakesTheLeastSquaresOfTheLogarithms) {
     EXPECT_NEAR(s.x2y.value(), 6, 1e-14);
 }
 
+// The same records: R2 = (4 * 16 + 2.5 * 10 + 1.5 * 6 - 4 * 4^2) / (102 - 4 * 4^2) = 34 / 38, of
+// the logarithms. The estimates of Imax are e^0, e^3, e^5 and e^8: with 40 digits the sum of the
+// squares of e^1 - e^0, e^2 - e^3, e^4 - e^5 and e^9 - e^8 has the root 5123.00103061977, which 4 -
+// 3 leaves as it is. Each record twice has twice the sum and 8 - 3.
+TEST(PowerFit, ItsQualityIsThatOfTheLogarithmsAndOfTheIntensities) {
+    const double e = std::exp(1.0);
+    std::vector<TrioIntensidad> trios = {{1 / e, 1 / e, std::exp(1.0)},
+                                         {1 / e, e, std::exp(2.0)},
+                                         {e, 1 / e, std::exp(4.0)},
+                                         {e, e, std::exp(9.0)}};
+    const CalidadPotencial four = calidadPotencial(*ajustePotencial(trios), trios);
+    EXPECT_NEAR(four.r2.value(), 34.0 / 38, 1e-14);
+    EXPECT_NEAR(four.r.value(), 0.94590530292692717, 1e-14);
+    EXPECT_NEAR(four.Se.value() / 5123.0010306197698, 1, 1e-12);
+    for (int i = 0; i < 4; ++i)
+        trios.push_back(trios[static_cast<std::size_t>(i)]);
+    const CalidadPotencial eight = calidadPotencial(*ajustePotencial(trios), trios);
+    EXPECT_NEAR(eight.r2.value(), 34.0 / 38, 1e-14);
+    EXPECT_NEAR(eight.Se.value() / 3240.0703424297598, 1, 1e-12);
+}
+
+TEST(PowerFit, RecordsOnTheSurfaceLeaveNoError) {
+    const auto trios = onTheSurface(400, 0.5, -0.25);
+    const CalidadPotencial quality = calidadPotencial(*ajustePotencial(trios), trios);
+    EXPECT_NEAR(quality.r2.value(), 1, 1e-10);
+    EXPECT_NEAR(quality.r.value(), 1, 1e-10);
+    EXPECT_NEAR(quality.Se.value(), 0, 1e-8);
+}
+
+// Three records leave Se no degree of freedom; equal intensities leave R2 no variance.
+TEST(PowerFit, AQualityWithoutValueFails) {
+    const auto qualityFailure = [](const std::vector<TrioIntensidad>& trios) {
+        return testing::failureNumber([&] { calidadPotencial(*ajustePotencial(trios), trios); });
+    };
+    EXPECT_EQ(qualityFailure({{2, 10, 1}, {2, 60, 1}, {10, 10, 1}, {10, 60, 1}}), 11);
+    EXPECT_EQ(qualityFailure({{2, 10, 100}, {2, 60, 40}, {10, 10, 150}}), 11);
+}
+
+TEST(PowerFit, TheColumnsOfAGridAreItsRecords) {
+    const std::vector<Real> T{2, 5};
+    const std::vector<Real> D{10, 20};
+    const std::vector<Real> Imax{90, 80};
+    const auto trios = enTrios(T, D, Imax);
+    ASSERT_EQ(trios.size(), 2U);
+    EXPECT_EQ(trios[1].T.value(), 5);
+    EXPECT_EQ(trios[1].D.value(), 20);
+    EXPECT_EQ(trios[1].Imax.value(), 80);
+}
+
 // ln 1 = 0 leaves the column of T (or of D) without any pivot, exactly.
 TEST(PowerFit, RecordsOfOneReturnPeriodOfOneYearAreSingular) {
     EXPECT_FALSE(fitOf({{1, 10, 90}, {1, 20, 70}, {1, 30, 60}, {1, 60, 40}}).has_value());
