@@ -16,6 +16,11 @@
 #include "peakflow/frmQmaxMacMath.h"
 #include "peakflow/frmQmaxNash.h"
 #include "peakflow/frmQmaxRacional.h"
+#include "precipitation/frmAnalisisTor.h"
+#include "precipitation/frmIntensidadMax.h"
+#include "precipitation/frmIsoyeta.h"
+#include "precipitation/frmPromArit.h"
+#include "precipitation/frmThiessen.h"
 #include "regression/frmEjRegSimple.h"
 #include "regression/frmRegMul2Var.h"
 #include "regression/frmRegMul3Var.h"
@@ -62,6 +67,11 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisLogPearson3", create<frmDisLogPearson3>},
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
+        {"frmAnalisisTor", create<frmAnalisisTor>},
+        {"frmIntensidadMax", create<frmIntensidadMax>},
+        {"frmPromArit", create<frmPromArit>},
+        {"frmThiessen", create<frmThiessen>},
+        {"frmIsoyeta", create<frmIsoyeta>},
         {"frmVariacionEsta", create<frmVariacionEsta>},
         {"frmCurvaDuracion", create<frmCurvaDuracion>},
         {"frmAforoCorren", create<frmAforoCorren>},
