@@ -126,8 +126,27 @@ void Program::chooseTab(Tabs& tabs, int index) {
     });
 }
 
+void Program::key(Window& window, Key key) {
+    actOn(window, [&] {
+        if (window.onKey)
+            window.onKey(key);
+    });
+}
+
+bool Program::consumedBefore(Control& control, Key key) {
+    bool consumed = false;
+    actOn(control.window(), [&] {
+        Window& window = control.window();
+        if (!window.onKey)
+            return;
+        window.setFocus(control);
+        consumed = window.onKey(key);
+    });
+    return consumed;
+}
+
 void Program::key(Control& control, Key key) {
-    if (!control.enabled)
+    if (!control.enabled || consumedBefore(control, key))
         return;
     if (control.kind() == ControlKind::button || control.kind() == ControlKind::option) {
         if (key.kind == Key::Kind::enter || key.character == U' ') {

@@ -65,6 +65,8 @@ public:
     /// Moves the caret, in characters; the focus stays where it is.
     void select(TextBox& box, std::size_t start, std::size_t length);
     void key(Control& control, Key key);
+    /// The same in a window none of whose controls has the focus.
+    void key(Window& window, Key key);
     void choose(List& list, const std::string& text);
     void chooseTab(Tabs& tabs, int index);
     void selectCell(MSFlexGrid& grid, long row, long col);
@@ -93,6 +95,8 @@ private:
     void actOnText(TextBox& box, const std::function<void()>& handler);
     /// One event on a window; none once it is unloaded.
     void actOn(const Window& window, const std::function<void()>& handler);
+    /// Whether the control's window takes the key before it.
+    bool consumedBefore(Control& control, Key key);
     static void keyOnGrid(MSFlexGrid& grid, Key key);
     static void keyOnText(TextBox& box, Key key);
     const WindowEntry* entryOf(std::string_view name) const;

@@ -9,6 +9,7 @@
 #include "shell/window/Platform.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,6 +37,9 @@ public:
 
     std::string caption;
     bool visible = false;
+    /// A key before any control of the window gets it, or when none has the focus; true if it is
+    /// consumed.
+    std::function<bool(Key)> onKey;
     /// Grows each time the window is shown, so that a view brings it to the front.
     std::uint64_t shown = 0;
 
