@@ -27,6 +27,7 @@
 #include "regression/frmRegPoli2Gra.h"
 #include "regression/frmRegPoli3Gra.h"
 #include "regression/frmRegreLineal.h"
+#include "shell/main/frmCalculadora.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/main/frmacerc.h"
 #include "shell/report/frmPadre.h"
@@ -50,6 +51,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmCaudalera", create<frmCaudalera>},
         {"frmPadre", create<frmPadre>},
         {"frmacerc", create<frmacerc>},
+        {"frmCalculadora", create<frmCalculadora>},
         {"frmParamEsta", create<frmParamEsta>},
         {"frmParEstAgru", create<frmParEstAgru>},
         {"frmDistriFre", create<frmDistriFre>},

@@ -1,8 +1,10 @@
 #include "desktop/Views.h"
 
 #include "desktop/report/ReportWindow.h"
+#include "desktop/windows/CalculatorView.h"
 #include "desktop/windows/MainWindow.h"
 #include "desktop/windows/WindowView.h"
+#include "shell/main/frmCalculadora.h"
 #include "shell/main/frmCaudalera.h"
 #include "shell/report/frmPadre.h"
 
@@ -13,6 +15,8 @@ View* makeView(Session& session, Window& window) {
         return new ReportWindow(session, *padre);
     if (auto* principal = dynamic_cast<frmCaudalera*>(&window))
         return new MainWindow(session, *principal);
+    if (auto* calculadora = dynamic_cast<frmCalculadora*>(&window))
+        return new CalculatorView(session, *calculadora);
     return new WindowView(session, window);
 }
 

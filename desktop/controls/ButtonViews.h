@@ -34,14 +34,13 @@ class ButtonView : public ControlView {
 public:
     ButtonView(Session& session, Button& button, QWidget* parent)
         : ButtonView(button, *new CommandButton(session, button, parent)) {}
+    ButtonView(Button& control, CommandButton& button)
+        : ControlView(control, button), button_(button) {}
 
     QWidget* focusTarget() const override { return &button_; }
     void sync() override;
 
 private:
-    ButtonView(Button& control, CommandButton& button)
-        : ControlView(control, button), button_(button) {}
-
     CommandButton& button_;
 };
 
