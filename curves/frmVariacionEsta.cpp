@@ -52,7 +52,7 @@ void frmVariacionEsta::disponer() {
     grddis.visibleRows = static_cast<int>(numMeses);
     layout = row({
         ingreso.columna(grdt),
-        column({fields({txtnanos}), control(lblProbabilidad), control(grddis),
+        column({row({control(lblProbabilidad), fields({txtnanos})}), control(grddis),
                 control(Graph1).stretched()})
             .stretched(),
     });

@@ -1,6 +1,7 @@
 #include "curves/variacionEstacional.h"
 
 #include "shell/numbers/aproximacionNormal.h"
+#include "shell/numbers/logaritmos.h"
 #include "shell/numbers/momentos.h"
 
 #include <algorithm>
@@ -25,10 +26,9 @@ bool admitenLogaritmo(const ValoresPorMes& meses) {
 LeyMensual leyMensual(std::vector<Real> valores) {
     // The order of the sums is that of the sorted values.
     ordenarAscendente(valores);
-    for (Real& valor : valores)
-        valor = Log(valor);
-    const Real mediaLog = media(valores);
-    return {mediaLog, desviacionMuestral(valores, mediaLog)};
+    const auto logs = logaritmos(valores);
+    const Real mediaLog = media(logs);
+    return {mediaLog, desviacionMuestral(logs, mediaLog)};
 }
 
 Real valorDeExcedencia(const LeyMensual& ley, Real P) {

@@ -166,8 +166,10 @@ TEST_F(VariacionEstaCalculate, TheChartShowsACurveAProbability) {
         EXPECT_EQ(graph.series()[i].y.size(), 12U);
     }
     // The values themselves, of which the grid shows two decimals.
-    EXPECT_NEAR(graph.series()[0].y[0], 10.293128562331356, 1e-10);
-    EXPECT_NEAR(graph.series()[5].y[0], 8.6241379721581563, 1e-10);
+    const double january[] = {10.293128562331356, 10.052074653628625, 9.7902452881760288,
+                              9.4936405667266964, 9.1332135263554155, 8.6241379721581563};
+    for (std::size_t i = 0; i < 6; ++i)
+        EXPECT_NEAR(graph.series()[i].y[0], january[i], 1e-10) << i;
     EXPECT_NEAR(graph.series()[1].y[11], 18.084272296792340, 1e-10);
     EXPECT_NEAR(graph.series()[4].y[11], 16.590585940071354, 1e-10);
 }
