@@ -16,9 +16,10 @@ namespace {
 using Values = std::vector<Real>;
 using testing::failureNumber;
 
-// Chow, Maidment and Mays, Applied Hydrology (1988), figure 3.4.1 and tables of section 3.4: the
-// stations inside a basin of 9.14 km2 have 20, 30, 40 and 50 mm: 35.0 mm. With the station outside
-// (10 mm) and the areas of the polygons the sum is 284.6 of 9.14 km2, 31.1 mm.
+// Chow, Maidment and Mays, Applied Hydrology (1988), section 3.4: the stations inside a basin of
+// 9.14 km2 have 20, 30, 40 and 50 mm, whose mean is 35.0 mm. With the station outside (10 mm) and
+// the areas of the polygons 284.6 / 9.14 are 31.1 mm. The bands between the isohyets have 5, 15,
+// 25, 35, 45 and 53 mm: 255.1 / 9.14 are 27.9 mm.
 TEST(ArithmeticMean, OfThePublishedBasin) {
     EXPECT_EQ(promedioAritmetico(Values{20, 30, 40, 50}).value(), 35);
 }
@@ -28,6 +29,14 @@ TEST(Thiessen, OfThePublishedBasin) {
     const Values rain{10, 20, 30, 40, 50};
     const Values areas{0.22, 4.02, 1.35, 1.60, 1.95};
     EXPECT_NEAR(thiessen(rain, areas).value(), 284.6 / 9.14, 1e-13);
+}
+
+// 0.88 * 5 + 1.59 * 15 + 2.24 * 25 + 3.01 * 35 + 1.22 * 45 + 0.20 * 53
+// = 4.4 + 23.85 + 56 + 105.35 + 54.9 + 10.6.
+TEST(Isohyets, OfThePublishedBasin) {
+    const Values isohyets{0, 10, 20, 30, 40, 50, 56};
+    const Values areas{0.88, 1.59, 2.24, 3.01, 1.22, 0.20};
+    EXPECT_NEAR(isoyetas(isohyets, areas).value(), 255.1 / 9.14, 1e-13);
 }
 
 TEST(ArithmeticMean, OfOneStationIsItsOwn) {
