@@ -1,33 +1,13 @@
 #include "shell/files/SeriesFile.h"
 
 #include "shell/files/FilePath.h"
+#include "shell/files/SingleBytes.h"
 #include "shell/numbers/RuntimeFailure.h"
 
-#include <array>
-#include <bit>
 #include <limits>
 #include <utility>
 
 namespace caudalera {
-
-namespace {
-
-std::array<char, 4> toBytes(float value) {
-    const auto bits = std::bit_cast<std::uint32_t>(value);
-    std::array<char, 4> bytes{};
-    for (unsigned i = 0; i < 4; ++i)
-        bytes[i] = static_cast<char>(static_cast<unsigned char>(bits >> (8 * i)));
-    return bytes;
-}
-
-float fromBytes(const char* bytes) {
-    std::uint32_t bits = 0;
-    for (unsigned i = 0; i < 4; ++i)
-        bits |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
-    return std::bit_cast<float>(bits);
-}
-
-} // namespace
 
 SeriesFile::SeriesFile(Variables& variables, const std::string& path, int fields, Access access)
     : variables_(variables), record_(static_cast<std::size_t>(fields)) {
@@ -59,10 +39,10 @@ Integer16 SeriesFile::records() const {
 
 std::span<const float> SeriesFile::read() {
     for (float& field : record_) {
-        std::array<char, 4> bytes{};
+        SingleBytes bytes{};
         if (!stream_.read(bytes.data(), bytes.size()))
             throw RuntimeFailure(Failure::fileAccess);
-        field = fromBytes(bytes.data());
+        field = singleOf(bytes);
     }
     return record_;
 }
@@ -73,7 +53,7 @@ void SeriesFile::goTo(long record) {
 
 void SeriesFile::write(std::span<const float> record) {
     for (const float field : record) {
-        const auto bytes = toBytes(field);
+        const auto bytes = bytesOfSingle(field);
         replacement_->write({bytes.data(), bytes.size()});
     }
 }

@@ -53,8 +53,8 @@ protected:
     /// Sets `n` and fills the arrays with the numeric reading of the cells, row by row; failure 9
     /// past their capacity.
     virtual void leerCuadricula();
-    /// One row of it, for what is computed row by row.
-    void leerFila(long fila);
+    /// One row of it, for what is read or computed row by row.
+    virtual void leerFila(long fila);
     /// Text of the fixed cell of a data row: its number, where a window gives no other.
     virtual std::string etiquetaFila(long fila) const;
     /// Labels the data rows anew; the append row keeps its mark.
