@@ -1,10 +1,7 @@
 #include "evapotranspiration/frmPenman.h"
 
-#include "evapotranspiration/radiacionSolar.h"
 #include "evapotranspiration/tablasSolares.h"
-#include "shell/text/Text.h"
 
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -13,18 +10,14 @@ namespace caudalera {
 namespace {
 
 constexpr std::string_view mascaraResultado = "0.0#";
-constexpr const char* latitudInicial = "10";
-constexpr const char* hemisferioInicial = "N";
-constexpr const char* mesInicial = "Enero";
 constexpr long guionesDelReporte = 35;
 
 } // namespace
 
 frmPenman::frmPenman(Program& program)
-    : CalculationWindow(program, "frmPenman",
+    : SingleMonthWindow(program, "frmPenman",
                         "Cálculo de la evapotranspiración potencial por el método de Penman "
-                        "modificado por la FAO"),
-      cobMes(*this, "cobMes", {nombresMeses.begin(), nombresMeses.end()}, mesInicial, "Mes:") {
+                        "modificado por la FAO") {
     disponer();
 }
 
@@ -36,9 +29,8 @@ void frmPenman::disponer() {
                          &txted,  &txteaed,      &txtw,         &txt1w,  &txtfu,  &txtft,
                          &txtfed, &txtfnN,       &txtRn1,       &txtRs,  &txtRns, &txtRn,
                          &txtC,   &txtRadiacion, &txtAdveccion, &txtETo});
-    const Layout datos =
-        fields({Layout::FieldLine(txtLatitud.label(), {&txtLatitud, &cobNS}, txtLatitud.unit()),
-                txth, cobMes, txtT, txtHRmed, txtHRmax, txtUz, txtHz, txtRVdVn, txtnp});
+    const Layout datos = fields(
+        {lineaDeLatitud(), txth, cobMes, txtT, txtHRmed, txtHRmax, txtUz, txtHz, txtRVdVn, txtnp});
     const Layout parciales =
         row({fields({txtRa, txtN, txtRnpNg, txtFhv, txtU2, txtea, txted, txteaed, txtw}),
              fields({txt1w, txtfu, txtft, txtfed, txtfnN, txtRn1, txtRs, txtRns, txtRn})});
@@ -49,29 +41,15 @@ void frmPenman::disponer() {
     });
 }
 
-void frmPenman::load() {
-    txtLatitud.setText(latitudInicial);
-    setFocus(txtLatitud);
-}
-
 void frmPenman::limpiar() {
     vaciarCampos();
-    cobNS.setText(hemisferioInicial);
-    cobMes.setText(mesInicial);
-    setFocus(txtLatitud);
-}
-
-std::optional<Real> frmPenman::leer(TextBox& campo, const char* magnitud) {
-    if (!exigir(campo, {std::string("Ingresar un valor adecuado para ") + magnitud,
-                        "Mensaje de error", Icon::information}))
-        return std::nullopt;
-    return Val(campo.text());
+    reiniciarSitio();
 }
 
 DatosPenman frmPenman::leerDatos() {
     DatosPenman datos;
-    datos.latitud = latitudEnRadianes(leer(txtLatitud, "la latitud").value_or(0), cobNS.text());
-    mes_ = numeroDeMes(cobMes.text()).value_or(mes_);
+    datos.latitud = enRadianes(leer(txtLatitud, "la latitud").value_or(0));
+    tomarMes();
     datos.h = leer(txth, "la altitud").value_or(0);
     temperatura_ = leer(txtT, "la temperatura").value_or(temperatura_);
     datos.T = temperatura_;
@@ -81,8 +59,8 @@ DatosPenman frmPenman::leerDatos() {
     datos.hz = leer(txtHz, "la altura de medición del viento").value_or(0);
     datos.VdVn = leer(txtRVdVn, "la relación de velocidades del viento Vd/Vn").value_or(0);
     datos.n = leer(txtnp, "el número de horas de insolación solar real").value_or(0);
-    datos.declinacion = declinacionSolar(mes_);
-    datos.dr = factorDistancia(mes_);
+    datos.declinacion = declinacionSolar(mes());
+    datos.dr = factorDistancia(mes());
     return datos;
 }
 

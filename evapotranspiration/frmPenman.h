@@ -1,24 +1,18 @@
 #pragma once
 
+#include "evapotranspiration/SingleMonthWindow.h"
 #include "evapotranspiration/penman.h"
-#include "shell/numbers/Integer16.h"
-#include "shell/worksheet/CalculationWindow.h"
-
-#include <optional>
 
 namespace caudalera {
 
 /// Reference evapotranspiration of one month at one site by the modified Penman method, with every
 /// term on the way.
-class frmPenman : public CalculationWindow {
+class frmPenman : public SingleMonthWindow {
 public:
     explicit frmPenman(Program& program);
 
-    Frame fraDatos{*this, "fraDatos", "Datos:"};
-    TextBox txtLatitud{*this, "txtLatitud", "Latitud:", "grados"};
-    List cobNS{*this, "cobNS", {"N", "S"}, "N"};
     TextBox txth{*this, "txth", "Altitud (h):", "m.s.n.m"};
-    List cobMes;
+    List cobMes = listaDeMeses(*this);
     TextBox txtT{*this, "txtT", "Tmedia (T):", "ºC"};
     TextBox txtHRmed{*this, "txtHRmed", "HRmedia", "%"};
     TextBox txtHRmax{*this, "txtHRmax", "HRmáxima", "%"};
@@ -53,26 +47,21 @@ public:
     TextBox txtAdveccion{*this, "txtAdveccion", "Término Advección:", "mm/día"};
     TextBox txtETo{*this, "txtETo", "ETo:", "mm/día"};
 
-    void load() override;
-
 protected:
+    List& meses() override { return cobMes; }
     void calcular() override;
     void limpiar() override;
     void escribirReporte(ReportWriter& reporte) override;
 
 private:
     void disponer();
-    /// The field's value. An empty field has a message and gets the focus, and gives none.
-    std::optional<Real> leer(TextBox& campo, const char* magnitud);
     DatosPenman leerDatos();
     void mostrar(const TerminosPenman& terminos);
     void escribirDatos(ReportWriter& reporte) const;
     void escribirParciales(ReportWriter& reporte) const;
     void escribirFinales(ReportWriter& reporte) const;
 
-    // What a run leaves to the next one: a month text or an empty temperature that says nothing
-    // keeps them.
-    Integer16 mes_;
+    /// What a run leaves to the next one, which keeps it where its field is empty.
     Real temperatura_;
 };
 

@@ -45,6 +45,13 @@ TEST(PenmanTerms, WindAtTwoMetresIsLogarithmicAndShiftedAboveTwo) {
     EXPECT_NEAR(above.Ukm.value(), 864 * above.fz.value(), 1e-10);
 }
 
+TEST(PenmanTerms, WindIsShiftedFromTwoMetresOnExactly) {
+    EXPECT_NEAR(vientoADosMetros(36, 1.9999).fz.value(), 4.87 / std::log(67.8 * 1.9999 - 5.42),
+                1e-14);
+    EXPECT_NEAR(vientoADosMetros(36, 2.0001).fz.value(),
+                4.87 / std::log(67.8 * 2.0001 - 5.42) + 0.01, 1e-14);
+}
+
 // FAO Irrigation and Drainage Paper 24, table of the weighting factor W (two decimals): at altitude
 // 0 0.55 at 10 degrees, 0.78 at 30, 0.85 at 40; at 20 degrees 0.71 at 1000 m and 0.73 at 2000 m.
 TEST(PenmanTerms, WeightingFactorIsThatOfTheTable) {
@@ -160,6 +167,24 @@ TEST(PenmanTerms, AllOfACloudlessMonth) {
                  {"terRadiacion", terms.terRadiacion, 5.6511641095504009},
                  {"terAdveccion", terms.terAdveccion, 3.5515838846845201},
                  {"ETo", terms.ETo, 12.463618783566400}});
+}
+
+// On the equator there are twelve hours: 12.0006 of them are all the same n/N = 1.
+TEST(PenmanTerms, RelativeSunshineEndsAtOneExactly) {
+    DatosPenman equator{.latitud = 0,
+                        .declinacion = 0.25,
+                        .dr = 1,
+                        .h = 0,
+                        .T = 20,
+                        .HRmed = 50,
+                        .HRmax = 80,
+                        .Uz = 10,
+                        .hz = 2,
+                        .VdVn = 1,
+                        .n = 12.0006};
+    EXPECT_EQ(penman(equator).nN, 1);
+    equator.n = 11.9994;
+    EXPECT_NEAR(penman(equator).nN.value(), 0.99995, 1e-12);
 }
 
 } // namespace
