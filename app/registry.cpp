@@ -2,6 +2,7 @@
 
 #include "curves/frmCurvaDuracion.h"
 #include "curves/frmVariacionEsta.h"
+#include "evapotranspiration/frmHargreaves.h"
 #include "evapotranspiration/frmPenman.h"
 #include "fitting/frmDisGamma2par.h"
 #include "fitting/frmDisGamma3par.h"
@@ -69,6 +70,11 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmDisLogPearson3", create<frmDisLogPearson3>},
         {"frmDisGumbel", create<frmDisGumbel>},
         {"frmDisLogGumbel", create<frmDisLogGumbel>},
+        {"frmAnalisisTor", create<frmAnalisisTor>},
+        {"frmIntensidadMax", create<frmIntensidadMax>},
+        {"frmPromArit", create<frmPromArit>},
+        {"frmThiessen", create<frmThiessen>},
+        {"frmIsoyeta", create<frmIsoyeta>},
         {"frmVariacionEsta", create<frmVariacionEsta>},
         {"frmCurvaDuracion", create<frmCurvaDuracion>},
         {"frmAnalisisTor", create<frmAnalisisTor>},
@@ -82,6 +88,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmQmaxGumbel", create<frmQmaxGumbel>},
         {"frmQmaxNash", create<frmQmaxNash>},
         {"frmPenman", create<frmPenman>},
+        {"frmHargreaves", create<frmHargreaves>},
     };
     return entries;
 }
