@@ -4,6 +4,7 @@
 #include "curves/frmVariacionEsta.h"
 #include "evapotranspiration/frmHargreaves.h"
 #include "evapotranspiration/frmPenman.h"
+#include "evapotranspiration/frmThornthwaite.h"
 #include "fitting/frmDisGamma2par.h"
 #include "fitting/frmDisGamma3par.h"
 #include "fitting/frmDisGumbel.h"
@@ -87,6 +88,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmQmaxMacMath", create<frmQmaxMacMath>},
         {"frmQmaxGumbel", create<frmQmaxGumbel>},
         {"frmQmaxNash", create<frmQmaxNash>},
+        {"frmThornthwaite", create<frmThornthwaite>},
         {"frmPenman", create<frmPenman>},
         {"frmHargreaves", create<frmHargreaves>},
     };
