@@ -2,6 +2,7 @@
 
 #include "curves/frmCurvaDuracion.h"
 #include "curves/frmVariacionEsta.h"
+#include "evapotranspiration/frmBalanceHidro.h"
 #include "evapotranspiration/frmHargreaves.h"
 #include "evapotranspiration/frmPenman.h"
 #include "evapotranspiration/frmThornthwaite.h"
@@ -91,6 +92,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmThornthwaite", create<frmThornthwaite>},
         {"frmPenman", create<frmPenman>},
         {"frmHargreaves", create<frmHargreaves>},
+        {"frmBalanceHidro", create<frmBalanceHidro>},
     };
     return entries;
 }
