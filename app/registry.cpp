@@ -3,6 +3,7 @@
 #include "curves/frmCurvaDuracion.h"
 #include "curves/frmVariacionEsta.h"
 #include "evapotranspiration/frmBalanceHidro.h"
+#include "evapotranspiration/frmBlaneyCriddle.h"
 #include "evapotranspiration/frmHargreaves.h"
 #include "evapotranspiration/frmPenman.h"
 #include "evapotranspiration/frmThornthwaite.h"
@@ -90,6 +91,7 @@ const std::vector<WindowEntry>& ventanas() {
         {"frmQmaxGumbel", create<frmQmaxGumbel>},
         {"frmQmaxNash", create<frmQmaxNash>},
         {"frmThornthwaite", create<frmThornthwaite>},
+        {"frmBlaneyCriddle", create<frmBlaneyCriddle>},
         {"frmPenman", create<frmPenman>},
         {"frmHargreaves", create<frmHargreaves>},
         {"frmBalanceHidro", create<frmBalanceHidro>},
