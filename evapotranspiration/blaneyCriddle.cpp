@@ -60,8 +60,8 @@ Real factorBlaney(Real T, Real P) {
     return (T * 0.46 + 8.13) * P;
 }
 
-Real evapotranspiracionBlaney(const CoeficientesBlaney& c, Real f) {
-    return Real(c.a) + Real(c.b) * f;
+Real evapotranspiracionBlaney(const CoeficientesBlaney& coef, Real f) {
+    return Real(coef.a) + Real(coef.b) * f;
 }
 
 } // namespace caudalera

@@ -32,6 +32,6 @@ CoeficientesBlaney coeficientesBlaney(Clase insolacion, Clase humedad, Clase vie
 Real factorBlaney(Real T, Real P);
 
 /// Reference evapotranspiration, mm/day; negative where f is small.
-Real evapotranspiracionBlaney(const CoeficientesBlaney& coeficientes, Real f);
+Real evapotranspiracionBlaney(const CoeficientesBlaney& coef, Real f);
 
 } // namespace caudalera

@@ -48,7 +48,7 @@ public:
     /// it is missing or cannot be read.
     void cargar(const std::filesystem::path& directorio);
     /// Copies the twelve values of a key; of a text that is none it copies nothing.
-    void copiar(std::string_view clave, SerieSimple& meses) const;
+    void copiar(std::string_view clave, SerieSimple& destino) const;
 
 private:
     const FormatoDeTabla& formato_;

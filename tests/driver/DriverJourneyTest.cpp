@@ -171,6 +171,23 @@ TEST_F(DriverJourneyTest, TheReportIsEditedSavedAndOpenedInAnotherRun) {
               (json{{"align", "center"}, {"indent", 200}, {"rightIndent", 200}}));
 }
 
+// The factors of the build's own table file. Twelve months of 20 degrees: I = 12 x 4^1.514 =
+// 97.88138, a = 2.140842, ETo = 16 (200 / I)^a = 73.87325; at 10 N January's factor is 1.0.
+TEST_F(DriverJourneyTest, ATableFileIsReadFromTheDataDirectory) {
+    constexpr const char* thornthwaite = "frmThornthwaite";
+    open("mevthorn", thornthwaite);
+    rows(thornthwaite, Table(12, {"20"}));
+    EXPECT_EQ(focus(thornthwaite), "cobLatitud");
+    EXPECT_EQ(click(thornthwaite, "bCalcular")["messages"], json::array());
+    EXPECT_EQ(text(thornthwaite, "txti"), "97.8814");
+    EXPECT_EQ(cells(thornthwaite, "grddis")[1],
+              (Row{"Ene", "20.0", "8.157", "73.873", "1.0", "73.873", "2.38"}));
+    click(thornthwaite, "bGraficar");
+    const json chart = ok("chart", {{"window", thornthwaite}});
+    EXPECT_EQ(chart["points"], 12);
+    EXPECT_EQ(chart["x"][11], 11.0);
+}
+
 TEST_F(DriverJourneyTest, RowsPastTheArraysAreFatalWhereNoTrapStands) {
     open("mparanoagru", parameters);
     rows(parameters, Table(501, {"1"}));
