@@ -31,27 +31,28 @@ constexpr PorClase<PorClase<PorClase<CoeficientesBlaney>>> coeficientes = {{
 }};
 
 /// Both limits are medium.
-Clase claseEntre(Real valor, Real desde, Real hasta) {
+ClaseClimatica claseEntre(Real valor, Real desde, Real hasta) {
     if (valor < desde)
-        return Clase::baja;
-    return valor > hasta ? Clase::alta : Clase::media;
+        return ClaseClimatica::baja;
+    return valor > hasta ? ClaseClimatica::alta : ClaseClimatica::media;
 }
 
 } // namespace
 
-Clase claseDeInsolacion(Real nN) {
+ClaseClimatica claseDeInsolacion(Real nN) {
     return claseEntre(nN, 0.6, 0.8);
 }
 
-Clase claseDeHumedad(Real HRmin) {
+ClaseClimatica claseDeHumedad(Real HRmin) {
     return claseEntre(HRmin, 20, 50);
 }
 
-Clase claseDeViento(Real U) {
+ClaseClimatica claseDeViento(Real U) {
     return claseEntre(U, 7.2, 18);
 }
 
-CoeficientesBlaney coeficientesBlaney(Clase insolacion, Clase humedad, Clase viento) {
+CoeficientesBlaney coeficientesBlaney(ClaseClimatica insolacion, ClaseClimatica humedad,
+                                      ClaseClimatica viento) {
     return coeficientes[static_cast<std::size_t>(insolacion)][static_cast<std::size_t>(humedad)]
                        [static_cast<std::size_t>(viento)];
 }

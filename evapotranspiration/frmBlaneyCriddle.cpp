@@ -17,26 +17,27 @@ constexpr const char* tituloError = "Mensaje de error";
 /// Enough for the longest class of the climate, most of whose characters are narrow.
 constexpr int anchoDeLista = 20;
 
-using Clases = std::vector<Eleccion<Clase>>;
+using Clases = std::vector<Eleccion<ClaseClimatica>>;
 
 const Clases& clasesDeInsolacion() {
-    static const Clases clases = {{"Despejado (0.85-0.95)", Clase::alta},
-                                  {"Nublado parcial (0.65-0.85)", Clase::media},
-                                  {"Nublado (0.30-0.60)", Clase::baja},
-                                  {"Cubierto (0.15-0.25)", Clase::baja}};
+    static const Clases clases = {{"Despejado (0.85-0.95)", ClaseClimatica::alta},
+                                  {"Nublado parcial (0.65-0.85)", ClaseClimatica::media},
+                                  {"Nublado (0.30-0.60)", ClaseClimatica::baja},
+                                  {"Cubierto (0.15-0.25)", ClaseClimatica::baja}};
     return clases;
 }
 
 const Clases& clasesDeHumedad() {
-    static const Clases clases = {
-        {"Baja (< 20)", Clase::baja}, {"Media (20-50)", Clase::media}, {"Alta (>50)", Clase::alta}};
+    static const Clases clases = {{"Baja (< 20)", ClaseClimatica::baja},
+                                  {"Media (20-50)", ClaseClimatica::media},
+                                  {"Alta (>50)", ClaseClimatica::alta}};
     return clases;
 }
 
 const Clases& clasesDeViento() {
-    static const Clases clases = {{"Débil (< 7.2)", Clase::baja},
-                                  {"Moderado (7.2-18)", Clase::media},
-                                  {"Fuerte ( >18)", Clase::alta}};
+    static const Clases clases = {{"Débil (< 7.2)", ClaseClimatica::baja},
+                                  {"Moderado (7.2-18)", ClaseClimatica::media},
+                                  {"Fuerte ( >18)", ClaseClimatica::alta}};
     return clases;
 }
 

@@ -54,8 +54,8 @@ private:
     struct Clima {
         std::optional<CoeficientesBlaney> coeficientes;
         Real n;
-        Clase humedad = Clase::baja;
-        Clase viento = Clase::baja;
+        ClaseClimatica humedad = ClaseClimatica::baja;
+        ClaseClimatica viento = ClaseClimatica::baja;
     };
 
     void disponer();

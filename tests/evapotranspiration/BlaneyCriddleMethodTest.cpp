@@ -7,7 +7,7 @@
 namespace caudalera {
 namespace {
 
-constexpr Clase classes[] = {Clase::baja, Clase::media, Clase::alta};
+constexpr ClaseClimatica classes[] = {ClaseClimatica::baja, ClaseClimatica::media, ClaseClimatica::alta};
 
 // FAO Irrigation and Drainage Paper 24; the slope of much sun, dry air and medium wind is the
 // program's own.
@@ -36,19 +36,19 @@ TEST(BlaneyCriddle, HasTheCoefficientsOfAllClasses) {
 }
 
 TEST(BlaneyCriddle, TheLimitsOfAClassAreMedium) {
-    EXPECT_EQ(claseDeInsolacion(0.59999), Clase::baja);
-    EXPECT_EQ(claseDeInsolacion(0.6), Clase::media);
-    EXPECT_EQ(claseDeInsolacion(0.8), Clase::media);
-    EXPECT_EQ(claseDeInsolacion(0.80001), Clase::alta);
-    EXPECT_EQ(claseDeInsolacion(3), Clase::alta);
-    EXPECT_EQ(claseDeHumedad(19.9999), Clase::baja);
-    EXPECT_EQ(claseDeHumedad(20), Clase::media);
-    EXPECT_EQ(claseDeHumedad(50), Clase::media);
-    EXPECT_EQ(claseDeHumedad(50.0001), Clase::alta);
-    EXPECT_EQ(claseDeViento(7.1999), Clase::baja);
-    EXPECT_EQ(claseDeViento(7.2), Clase::media);
-    EXPECT_EQ(claseDeViento(18), Clase::media);
-    EXPECT_EQ(claseDeViento(18.0001), Clase::alta);
+    EXPECT_EQ(claseDeInsolacion(0.59999), ClaseClimatica::baja);
+    EXPECT_EQ(claseDeInsolacion(0.6), ClaseClimatica::media);
+    EXPECT_EQ(claseDeInsolacion(0.8), ClaseClimatica::media);
+    EXPECT_EQ(claseDeInsolacion(0.80001), ClaseClimatica::alta);
+    EXPECT_EQ(claseDeInsolacion(3), ClaseClimatica::alta);
+    EXPECT_EQ(claseDeHumedad(19.9999), ClaseClimatica::baja);
+    EXPECT_EQ(claseDeHumedad(20), ClaseClimatica::media);
+    EXPECT_EQ(claseDeHumedad(50), ClaseClimatica::media);
+    EXPECT_EQ(claseDeHumedad(50.0001), ClaseClimatica::alta);
+    EXPECT_EQ(claseDeViento(7.1999), ClaseClimatica::baja);
+    EXPECT_EQ(claseDeViento(7.2), ClaseClimatica::media);
+    EXPECT_EQ(claseDeViento(18), ClaseClimatica::media);
+    EXPECT_EQ(claseDeViento(18.0001), ClaseClimatica::alta);
 }
 
 // (0.46 x 20 + 8.13) x 0.3 = 5.199; -1.75 + 1.06 x 5.199 = 3.76094 (a and b are singles).
