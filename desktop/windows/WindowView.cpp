@@ -31,6 +31,7 @@ WindowView::WindowView(Session& session, Window& window)
     build();
     orderFocus();
     sync();
+    takeSmallestSize();
     takeFirstSize();
 }
 
@@ -61,6 +62,19 @@ void WindowView::orderFocus() {
         if (i > 0)
             QWidget::setTabOrder(focusChain_[i - 1].widget, focusChain_[i].widget);
     }
+}
+
+bool WindowView::event(QEvent* event) {
+    const bool known = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        takeSmallestSize();
+    return known;
+}
+
+void WindowView::takeSmallestSize() {
+    const QSize smallest = layout()->totalMinimumSize();
+    setMinimumSize(
+        smallest.expandedTo({0, layout()->totalMinimumHeightForWidth(smallest.width())}));
 }
 
 void WindowView::takeFirstSize() {

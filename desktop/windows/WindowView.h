@@ -19,6 +19,7 @@ public:
     void sync() override;
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -34,6 +35,8 @@ private:
     void syncFocus();
     /// The user has brought the keyboard to a widget.
     void focused(const QObject* widget, Qt::FocusReason reason);
+    /// At the smallest width sentences wrap, which the layout's own smallest height leaves out.
+    void takeSmallestSize();
     /// A first size that suits the content and the screen.
     void takeFirstSize();
 

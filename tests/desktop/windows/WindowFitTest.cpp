@@ -167,7 +167,11 @@ private:
                     label && label->wordWrap())
                     needed.setHeight(label->heightForWidth(label->width()));
                 QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
-                         qPrintable(what + " is cut"));
+                         qPrintable(what + QStringLiteral(" is cut: %1 x %2 of %3 x %4")
+                                               .arg(widget->width())
+                                               .arg(widget->height())
+                                               .arg(needed.width())
+                                               .arg(needed.height())));
             }
         }
         QVERIFY(checked > 0);
