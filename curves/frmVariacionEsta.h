@@ -23,7 +23,7 @@ public:
     Label lblProbabilidad{*this, "lblProbabilidad",
                           "Probabilidad de ocurrencia de eventos mensuales"};
     MSFlexGrid grddis{*this, "grddis"};
-    Label lblEjeMeses{*this, "lblEjeMeses", "Eje de Meses: 0 = Ene, 1 = Feb, ... ,11= Dic"};
+    Label lblEjeMeses{*this, "lblEjeMeses", rotuloEjeMeses};
     Graph Graph1{*this, "Graph1"};
 
 protected:

@@ -67,9 +67,11 @@ void TablaDeLatitud::cargar(const std::filesystem::path& directorio) {
 }
 
 void TablaDeLatitud::copiar(std::string_view clave, SerieSimple& destino) const {
-    if (const auto inicio = inicioDeBloque(formato_, clave))
-        std::copy_n(valores_.begin() + static_cast<std::ptrdiff_t>(*inicio), meses,
-                    destino.primeros(static_cast<long>(meses)).begin());
+    const auto inicio = inicioDeBloque(formato_, clave);
+    if (!inicio)
+        return;
+    std::copy_n(valores_.begin() + static_cast<std::ptrdiff_t>(*inicio), meses,
+                destino.primeros(static_cast<long>(meses)).begin());
 }
 
 } // namespace caudalera
