@@ -7,7 +7,8 @@
 namespace caudalera {
 namespace {
 
-constexpr ClaseClimatica classes[] = {ClaseClimatica::baja, ClaseClimatica::media, ClaseClimatica::alta};
+constexpr ClaseClimatica classes[] = {ClaseClimatica::baja, ClaseClimatica::media,
+                                      ClaseClimatica::alta};
 
 // FAO Irrigation and Drainage Paper 24; the slope of much sun, dry air and medium wind is the
 // program's own.

@@ -117,8 +117,8 @@ TEST_F(RacionalTest, NeitherSourceNorProvinceIsSetAtTheStart) {
 TEST_F(RacionalTest, ResultsAreShownApartFromWhatIsEntered) {
     for (const char* name : {"txttci", "txtImaxi", "txtecuacioni"})
         EXPECT_TRUE(control<TextBox>(name).result) << name;
-    for (const char* name : {"txtcq", "txtaq", "txtiq", "txtac", "txts", "txtLi", "txtHi", "txtTi",
-                             "txtDuracionAdi"})
+    for (const char* name :
+         {"txtcq", "txtaq", "txtiq", "txtac", "txts", "txtLi", "txtHi", "txtTi", "txtDuracionAdi"})
         EXPECT_FALSE(control<TextBox>(name).result) << name;
 }
 
