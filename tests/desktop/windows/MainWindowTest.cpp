@@ -58,6 +58,27 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(desktop_->session.viewOf(*opened)));
     }
 
+    void everyEntryOpensAWindowThatComesForward() {
+        const Window& main = desktop_->window();
+        int opened = 0;
+        for (const Control* control : main.controls()) {
+            auto* entry =
+                desktop_->view().findChild<QAction*>(QString::fromStdString(control->name()));
+            if (!entry || control->name() == "mparasalir" || control->name() == "mayuayu")
+                continue;
+            entry->trigger();
+            const Window* front = desktop_->program().front();
+            QVERIFY2(front && front != &main, control->name().c_str());
+            QWidget* view = desktop_->session.viewOf(*front);
+            QVERIFY2(view && view->isVisible(), control->name().c_str());
+            ++opened;
+            view->close();
+            QVERIFY(!front->loaded() || desktop_->program().front() == &main);
+        }
+        // 34 calculations and the about box.
+        QCOMPARE(opened, 35);
+    }
+
     void theMenuLeavesSeparatorsOut() {
         const auto* menu = desktop_->view().findChild<QMenu*>("mpara");
         QCOMPARE(menu->actions().size(), 5);
