@@ -107,7 +107,7 @@ void frmCurvaDuracion::escribirCurva() {
 
 void frmCurvaDuracion::evaluarQ() {
     const Message inadecuada{"Ingresar un valor adecuado para la probabilidad",
-                             "Error de ingreso de dato"};
+                             "Error de ingreso de dato", Icon::information};
     if (!exigir(txtxp, inadecuada))
         return;
     const Real P = Val(txtxp.text());

@@ -166,6 +166,23 @@ TEST_F(CurvaDuracionCalculate, FlowsPastTheArraysAreFatal) {
     EXPECT_TRUE(fatal(9));
 }
 
+// The mean is summed as the flows stand in the grid: 1E16 + 1 - 1E16 + 1 is 1 in doubles, the 1
+// behind 1E16 being lost; in descending order it would be 0.
+TEST_F(CurvaDuracionCalculate, TheMeanIsSummedInTheOrderOfTheGrid) {
+    calculate({"1E16", "1", "-1E16", "1"});
+    ASSERT_FALSE(program.ended());
+    EXPECT_EQ(rowText("grddis", 1),
+              "1|10000000000000000.0|10000000000000000.0|40000000000000000.0|25.0");
+    EXPECT_EQ(rowText("grddis", 2), "2|1.0|1.0|4.0|75.0");
+    EXPECT_EQ(rowText("grddis", 4), "4|-10000000000000000.0|||");
+}
+
+TEST_F(CurvaDuracionCalculate, AnOverflowOfTheMeanIsFatal) {
+    calculate({"1E308", "1E308"});
+    EXPECT_TRUE(fatal(6));
+    EXPECT_TRUE(messages().empty());
+}
+
 TEST_F(CurvaDuracionCalculate, TheLocalesSeparatorIsWritten) {
     platform.separator = ",";
     calculate({"1", "2", "3"});

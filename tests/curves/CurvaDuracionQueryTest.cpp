@@ -52,6 +52,24 @@ TEST_F(CurvaDuracionQuery, BelowTheFirstProbabilityIsFatal) {
     EXPECT_TRUE(messages().empty());
 }
 
+// In doubles 11 / 20 * 100 is a hair above 55, 11 * 100 / 20 is not.
+TEST_F(CurvaDuracionQuery, TheProbabilityIsThePartOfTheDaysTimes100) {
+    Texts flows(11, "9");
+    flows.insert(flows.end(), {"8", "7", "6", "5", "4", "3", "2", "1", "0"});
+    calculate(flows);
+    EXPECT_EQ(rowText("grddis", 1), "1|9.0|9.0|1.3333|55.0");
+    flowOf("55");
+    EXPECT_TRUE(fatal(9));
+}
+
+TEST_F(CurvaDuracionQuery, TheFlowHasAPointInAnyLocale) {
+    platform.separator = ",";
+    calculate({"5", "5", "3", "1"});
+    EXPECT_EQ(rowText("grddis", 1), "1|5,0|5,0|1,4286|50,0");
+    EXPECT_EQ(flowOf("60"), " 4.2");
+    EXPECT_EQ(flowOf("60,9"), " 4.2");
+}
+
 TEST_F(CurvaDuracionQuery, BeforeAnyCalculationTheFieldBecomesEmpty) {
     values({"5", "3"});
     enter("txtxq", "7");

@@ -36,7 +36,7 @@ protected:
     }
 
     const Message badProbability{"Ingresar un valor adecuado para la probabilidad",
-                                 "Error de ingreso de dato"};
+                                 "Error de ingreso de dato", Icon::information};
     const Message notCalculated{"Efectuar cálculos antes de graficar", "Mensaje de Error",
                                 Icon::information};
     const Message twoPoints{"Para graficar se requiere por lo menos dos puntos", "Mensaje de Error",

@@ -112,6 +112,20 @@ TEST_F(VariacionEstaCalculate, OneYearFails) {
     expectMessage(notCalculated);
 }
 
+TEST_F(VariacionEstaCalculate, AFailureKeepsTheResultsOfTheCalculationBefore) {
+    calculateTwoYears();
+    for (long row = 24; row > 12; --row)
+        deleteRow(row);
+    click("bCalcular");
+    expectMessage(failed);
+    EXPECT_EQ(text("txtnanos"), "1");
+    EXPECT_EQ(results(), curves);
+    click("bGraficar");
+    EXPECT_TRUE(messages().empty());
+    EXPECT_TRUE(chart().visible);
+    EXPECT_NEAR(chart().series().at(0).y.at(0), 10.293128562331356, 1e-10);
+}
+
 TEST_F(VariacionEstaCalculate, AZeroInASingleYearIsRefusedBeforeItFails) {
     values(firstYear);
     setCell(1, "0");
@@ -130,6 +144,15 @@ TEST_F(VariacionEstaCalculate, FortyOneYearsFitAndFortyTwoFail) {
     expectMessage(failed);
     EXPECT_EQ(text("txtnanos"), "41");
     EXPECT_FALSE(program.ended());
+}
+
+TEST_F(VariacionEstaCalculate, FiveHundredValuesCanBeSaved) {
+    writeSingles(file("a.VE"), std::vector<float>(500, 1.5F));
+    platform.answers = {file("a.VE"), file("b.VE")};
+    click("bAccesar");
+    click("bCrear");
+    EXPECT_FALSE(program.ended());
+    EXPECT_EQ(bytesOf(file("b.VE")), bytesOf(file("a.VE")));
 }
 
 TEST_F(VariacionEstaCalculate, SavingMoreThanTheCapacityIsFatal) {

@@ -98,6 +98,19 @@ TEST_F(AforoCorrenCalculate, AnOverflowFails) {
     EXPECT_EQ(rowText("grdavq", 1), "|||");
 }
 
+// From the water line: (0 + 1) / 2 * 2 and (1 + 2) / 2 * 3 m2.
+TEST_F(AforoCorrenCalculate, AnOverflowKeepsTheResultsBefore) {
+    calculate({{"2", "1", "0.5"}, {"3", "2", "0.75"}});
+    EXPECT_EQ(text("txtQ"), "3.0625");
+    messages();
+    calculate({{"1E200", "1E200", "1"}});
+    EXPECT_EQ(messages(), std::vector{unsuitable});
+    EXPECT_EQ(text("txtQ"), "3.0625");
+    EXPECT_EQ(rowText("grdavq", 1), "1|1.0|0.25|0.25");
+    EXPECT_EQ(rowText("grdavq", 2), "2|4.5|0.625|2.8125");
+    EXPECT_EQ(rowText("grdavq", 3), "|||");
+}
+
 TEST_F(AforoCorrenCalculate, RowsPastTheArraysFailAndAreFatalInAFile) {
     rows(equalStretches(499));
     platform.answers = {file("a.LHV")};

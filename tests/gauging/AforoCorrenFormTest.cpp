@@ -143,6 +143,21 @@ TEST_F(AforoCorrenVelocity, EveryEmptyFieldIsAskedForInItsTurn) {
     EXPECT_EQ(text("txtV"), "4.0");
 }
 
+// 0.25 * 120 / 60 + 0.1.
+TEST_F(AforoCorrenVelocity, ARefusalKeepsTheVelocityBefore) {
+    for (const auto& [field, value] : std::vector<std::pair<std::string, std::string>>{
+             {"txtNR", "120"}, {"txtTiempo", "60"}, {"txtA", "0.25"}, {"txtB", "0.1"}})
+        enter(field, value);
+    click("bVelocidad");
+    EXPECT_EQ(text("txtV"), "0.6");
+    enter("txtB", "");
+    messages();
+    click("bVelocidad");
+    EXPECT_EQ(messages().size(), 1U);
+    EXPECT_EQ(focus(), "txtB");
+    EXPECT_EQ(text("txtV"), "0.6");
+}
+
 TEST_F(AforoCorrenVelocity, ATimeOfZeroIsFatal) {
     reading("120", "0", "0.25", "0.01");
     EXPECT_TRUE(fatal(11));
