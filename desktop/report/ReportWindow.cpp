@@ -149,12 +149,19 @@ void ReportWindow::recordPlace() {
     placed_ = now;
 }
 
+bool ReportWindow::needsDocument(const MenuEntry& entry) const {
+    return &entry == &padre_.mnuFileSave || &entry == &padre_.mnuFileSaveAs ||
+           &entry == &padre_.mnuFilePrint || &entry == &padre_.mnuEditCut ||
+           &entry == &padre_.mnuEditCopy || &entry == &padre_.mnuEditPaste;
+}
+
 void ReportWindow::sync() {
     for (const auto& [entry, action] : actions_) {
         if (action->text() != toQString(entry->caption))
             action->setText(toQString(entry->caption));
-        if (action->isEnabled() != entry->enabled)
-            action->setEnabled(entry->enabled);
+        const bool enabled = entry->enabled && (padre_.active() || !needsDocument(*entry));
+        if (action->isEnabled() != enabled)
+            action->setEnabled(enabled);
     }
     for (std::size_t i = 0; i < panels_.size(); ++i) {
         const QString panel = toQString(padre_.sbStatusBar.panels[i]);

@@ -43,6 +43,8 @@ private:
     void click(MenuEntry& entry);
     void place();
     void recordPlace();
+    /// Saving, printing and editing have nothing to work on without one.
+    bool needsDocument(const MenuEntry& entry) const;
     void syncDocuments();
     DocumentFrame* frameOf(const frmDocumento* document) const;
 

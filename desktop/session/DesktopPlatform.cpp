@@ -131,6 +131,9 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
     box.setFileMode(QFileDialog::AnyFile);
     box.setOption(QFileDialog::DontConfirmOverwrite);
     box.setNameFilter(nameFilter(dialog.filter));
+    // A report is recognised by its suffix elsewhere; series files may be called anything.
+    if (dialog.kind == FileDialog::Kind::save && dialog.filter.ends_with("|*.RTF"))
+        box.setDefaultSuffix(QStringLiteral("rtf"));
     if (dialog.fileName.empty()) {
         box.setDirectory(QApplication::applicationDirPath());
     } else {

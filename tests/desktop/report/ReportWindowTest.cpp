@@ -90,6 +90,26 @@ private slots:
         QVERIFY(on->view()->toPlainText().contains("Otro"));
     }
 
+    void withoutADocumentOnlyMakingAndOpeningOneAreLeft() {
+        const auto enabled = [this] {
+            QStringList names;
+            for (const QAction* action : on->window()->findChildren<QAction*>())
+                if (action->objectName().startsWith(QStringLiteral("mnu")) && action->isEnabled())
+                    names.append(action->objectName());
+            names.sort();
+            return names;
+        };
+        QVERIFY(on->open());
+        QVERIFY(enabled().contains(QStringLiteral("mnuFileSave")));
+        auto& padre = *ventanaDeReportes(on->session->program());
+        on->session->act([&] { padre.closeDocument(*padre.active()); });
+        QCOMPARE(enabled(), QStringList({"mnuFileExit", "mnuFileNew", "mnuFileOpen"}));
+        QTest::keyClick(on->window(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!on->session->program().ended());
+        QTest::keyClick(on->window(), Qt::Key_N, Qt::ControlModifier);
+        QVERIFY(enabled().contains(QStringLiteral("mnuEditPaste")));
+    }
+
     void captionsFollowTheModel() {
         on->session->act([this] { on->padre().active()->caption = "/tmp/informe.RTF"; });
         QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("/tmp/informe.RTF"));

@@ -80,6 +80,21 @@ private slots:
         QCOMPARE(QDir::fromNativeSeparators(QString::fromStdString(*chosen)), existing.fileName());
     }
 
+    void aReportsNameGetsItsSuffixAndASeriesNameDoesNot() {
+        const auto saved = [this](const char* filter, const char* name) {
+            desktop_->expectDialog([this, name](QDialog& dialog) {
+                answer(dynamic_cast<QFileDialog&>(dialog),
+                       folder_.filePath(QString::fromUtf8(name)));
+            });
+            const auto chosen =
+                platform().showFileDialog({FileDialog::Kind::save, "Guardar", filter, ""});
+            return QFileInfo(QString::fromStdString(chosen.value_or(""))).fileName();
+        };
+        QCOMPARE(saved("Archivos (*.RTF)|*.RTF", "rep1"), QStringLiteral("rep1.rtf"));
+        QCOMPARE(saved("Archivos RTF(*.RTF)|*.RTF", "rep1.txt"), QStringLiteral("rep1.txt"));
+        QCOMPARE(saved("Valores de X|*.X", "serie"), QStringLiteral("serie"));
+    }
+
     void aCancelledFileDialogGivesNone() {
         desktop_->expectDialog([](QDialog& dialog) { dialog.reject(); });
         QVERIFY(!platform().showFileDialog({FileDialog::Kind::open, "Abrir", "Todo|*.*", ""}));
