@@ -16,7 +16,6 @@ frmIntensidadMax::frmIntensidadMax(Program& program)
     using namespace layout;
     using Column = MSFlexGrid::ColumnAlignment;
     columnas = {&T_, &D_, &Imax_};
-    registrarEntradas({&txtvT, &txtvD});
     registrarResultados({&txtvI});
     grdecua.columnWidths = {5200, 1200, 1200, 1300};
     grdecua.columnAlignments = {Column::left, Column::center, Column::center, Column::center};
@@ -38,6 +37,12 @@ void frmIntensidadMax::reiniciarResultados() {
 void frmIntensidadMax::borrarResultados() {
     Worksheet::borrarResultados();
     calculado_ = false;
+}
+
+void frmIntensidadMax::limpiar() {
+    Worksheet::limpiar();
+    txtvT.setText({});
+    txtvD.setText({});
 }
 
 void frmIntensidadMax::calcular() {

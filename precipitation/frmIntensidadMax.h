@@ -28,6 +28,7 @@ public:
 protected:
     void reiniciarResultados() override;
     void borrarResultados() override;
+    void limpiar() override;
     void calcular() override;
     void escribirReporte(ReportWriter& reporte) override;
 

@@ -120,6 +120,7 @@ TEST_F(MacMathWindowTest, AGroupNeedsItsAreaAndItsSlope) {
 TEST_F(MacMathWindowTest, TheThirtyFirstGroupIsFatal) {
     for (int i = 0; i < 30; ++i)
         group("1", "100", "Fina", "1");
+    EXPECT_EQ(text("txtgrupo"), " 31");
     EXPECT_EQ(rowText("grdC", 30), "30| 1|100|Fina|1| .36");
     EXPECT_FALSE(platform.ending.has_value());
     group("1", "100", "Fina", "1");

@@ -102,6 +102,20 @@ TEST_F(NashWindowTest, TwoYearsFillTheSumsAlone) {
     EXPECT_EQ(rowText("grdTablaQX", 1), "||||||");
 }
 
+// Of equal flows the slope is 0, and so is the margin where the sums are exact; X of T = 4, 2 and
+// 4/3: -0.90330, -0.52139 and -0.22036, their mean -0.54835. Of 33.3 rounding leaves a root of a
+// negative.
+TEST_F(NashWindowTest, EqualFlowsHaveNoMarginOrFailByRounding) {
+    EXPECT_EQ(result({"10", "10", "10"}, "10"),
+              "3|10.0|-0.5484|10.0|0.0|10.0|0.0| 10 0 -  10 0|10.0");
+    click("bLimpiar");
+    values({"33.3", "33.3", "33.3"});
+    calculate("10");
+    expectMessage(datosInadecuados);
+    EXPECT_EQ(sums(), "99.9|-1.6451|-54.78|3326.67|1.14");
+    EXPECT_EQ(rowText("grddis", 1), "||||||||");
+}
+
 // T = 2: X = -0.52139, X^2 = 0.27185.
 TEST_F(NashWindowTest, OneYearFillsTheSumsAlone) {
     values({"20"});

@@ -135,6 +135,12 @@ TEST_F(AnalisisTorTest, FiveHundredIntervalsCanBeDrawn) {
     EXPECT_FALSE(platform.ending.has_value());
 }
 
+TEST_F(AnalisisTorTest, OneIntervalMoreInAMassCurveEndsTheProgramToo) {
+    loadMinutes(501);
+    click("optCurvamasa");
+    EXPECT_TRUE(fatal(9));
+}
+
 TEST_F(AnalisisTorTest, OneIntervalMoreEndsTheProgram) {
     loadMinutes(501);
     click("bGraficar");

@@ -39,6 +39,22 @@ TEST_F(AnalisisTorTest, ReportsPairsTableAndLargestIntensity) {
     EXPECT_TRUE(messages().empty());
 }
 
+TEST_F(AnalisisTorTest, ReportsAsManyResultsAsThereAreRowsNow) {
+    rows(tormentaDeCuatro);
+    click("bCalcular");
+    cell("grdt", 4, 1);
+    click("mnuEditEliminar");
+    click("bReporte");
+    const std::string shorter = report();
+    EXPECT_NE(shorter.find("3\t\t8\t\t38\t\t10\t\t39\t\t75.0\t\t\n" + rule130), std::string::npos);
+    EXPECT_TRUE(shorter.ends_with("El Imáx para una duración de 8 min, es 75.0 mm/hr\n"));
+    rows({{"30", "3"}, {"8", "10"}});
+    click("bReporte");
+    EXPECT_NE(report().find("4\t\t30\t\t68\t\t3\t\t42\t\t6.0\t\t\n" + std::string(12, '\t') + "\n" +
+                            rule130),
+              std::string::npos);
+}
+
 TEST_F(AnalisisTorTest, ReportsTheEmptyWindowToo) {
     click("bReporte");
     EXPECT_EQ(report(), dataHead + rule65 + resultHead + rule130 +

@@ -140,6 +140,38 @@ TEST_F(IntensidadMaxTest, ASingularSystemIsToldAndWritesNothing) {
     EXPECT_FALSE(form.calculado());
 }
 
+// With one T in all records the system is singular but for rounding: 10 leaves a pivot, 7 leaves
+// none. K and m are rounding then, the rest is the power regression on D: in 40 digits the power is
+// -0.488248544068, R2 0.983496996578, Se with two degrees of freedom 5.16415541798 and I(30)
+// 55.7677250121.
+TEST_F(IntensidadMaxTest, OneReturnPeriodInAllRecordsIsSingularOnlyWherePivotsAreZero) {
+    const auto records = [](const std::string& T) {
+        return std::vector<std::vector<std::string>>{
+            {T, "10", "90"}, {T, "20", "70"}, {T, "30", "60"}, {T, "60", "40"}, {T, "90", "31"}};
+    };
+    calculate(records("10"), "10", "30");
+    EXPECT_TRUE(messages().empty());
+    EXPECT_EQ(cellText("grdecua", 1, 1), "0.9917");
+    EXPECT_EQ(cellText("grdecua", 1, 2), "0.9835");
+    EXPECT_EQ(cellText("grdecua", 1, 3), "5.1642");
+    EXPECT_EQ(text("txtvI"), "55.77");
+    click("bLimpiar");
+    calculate(records("7"), "7", "30");
+    expectMessage({"El sistema que se origina tiene infinitas soluciones", "", Icon::error});
+    EXPECT_EQ(equation(), "|||");
+}
+
+// Neither T nor D tells anything of I: both powers and R2 are 0, K is Sqr(9 * 25), and of these
+// values rounding leaves R2 below 0.
+TEST_F(IntensidadMaxTest, AQualityBelowZeroFailsBehindTheIntensity) {
+    calculate({{"2", "5", "9"}, {"2", "120", "25"}, {"10", "5", "25"}, {"10", "120", "9"}}, "7",
+              "30");
+    expectMessage({mensajeDePotencial, ""});
+    EXPECT_EQ(text("txtvI"), "15.0");
+    EXPECT_EQ(equation(), "|||");
+    EXPECT_FALSE(form.calculado());
+}
+
 TEST_F(IntensidadMaxTest, ATrioOfZeroOrLessIsToldAndLeavesWhatIsShown) {
     calculate(cincoTrios, "25", "45");
     for (const auto& bad :
