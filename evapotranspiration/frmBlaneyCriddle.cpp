@@ -191,7 +191,11 @@ std::optional<frmBlaneyCriddle::Clima> frmBlaneyCriddle::leerClimaMedido() {
     const auto U = leerMedida(txtcv, "de la velocidad del viento");
     if (!U)
         return std::nullopt;
-    return Clima{std::nullopt, *horas, claseDeHumedad(*HRmin), claseDeViento(*U)};
+    const ClaseClimatica humedad = claseDeHumedad(*HRmin);
+    const ClaseClimatica viento = claseDeViento(*U);
+    // The wind in m/s is used nowhere; it refuses one past the doubles.
+    static_cast<void>(10 * *U / 36);
+    return Clima{std::nullopt, *horas, humedad, viento};
 }
 
 std::optional<Real> frmBlaneyCriddle::leerMedida(TextBox& campo, const char* magnitud) {

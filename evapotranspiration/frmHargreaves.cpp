@@ -97,6 +97,7 @@ void frmHargreaves::calcular() {
     const auto grados = leer(txtLatitud, "la latitud");
     if (!grados)
         return;
+    const Real latitud = enRadianes(*grados);
     tomarMes();
     const auto temperaturas = leerTemperaturas();
     if (!temperaturas)
@@ -105,8 +106,8 @@ void frmHargreaves::calcular() {
         tomarKcDeLista();
     if (fraKcTabla.visible && !tomarKcDeTabla())
         return;
-    const Real Ra =
-        radiacionSolar(enRadianes(*grados), declinacionSolar(mes()), factorDistancia(mes())).Ra;
+    const Real declinacion = declinacionSolar(mes());
+    const Real Ra = radiacionSolar(latitud, declinacion, factorDistancia(mes())).Ra;
     const Real ETo = evapotranspiracionHargreaves(Ra, temperaturas->minima, temperaturas->maxima);
     const Real ETc = Real(Kc) * ETo;
     txtRa.setText(formatear(Ra, mascaraResultado));

@@ -164,6 +164,63 @@ TEST_F(BalanceHidroTest, TakesTheFactorsOfTheLatitude) {
     EXPECT_EQ(cellText("grddis", 5, 12), "96.412");
 }
 
+// The temperature is a single of seven digits, the rain a double: 1.0049999 is 1.005 as a single.
+TEST_F(BalanceHidroTest, TemperaturesAreSinglesAndRainsAreNot) {
+    Year T = temperatures;
+    Year P = rains;
+    T[0] = P[0] = "20.005";
+    year(T, P);
+    click("bCalcular");
+    EXPECT_EQ(cellText("grddis", 1, 1), "20.01");
+    EXPECT_EQ(cellText("grddis", 6, 1), "20.01");
+    put(1, 1, "1.0049999");
+    put(1, 2, "1.0049999");
+    click("bCalcular");
+    EXPECT_EQ(cellText("grddis", 1, 1), "1.01");
+    EXPECT_EQ(cellText("grddis", 6, 1), "1.0");
+}
+
+// i = 1 of 5 degrees each month, and a = 0.6751E-6 x 1728 - 0.771E-4 x 144 + 0.01792 x 12 + 0.49239
+// = 0.6974942; of 5.8 degrees 15.0234834.
+TEST_F(BalanceHidroTest, TheYearsIndexHasOneOrTwoDecimals) {
+    year(Year(12, "5"), rains);
+    click("bCalcular");
+    EXPECT_EQ(cellText("grddis", 2, 13), "12.0");
+    EXPECT_EQ(text("txtA"), "0.69749");
+    click("bLimpiar");
+    year(Year(12, "5.8"), rains);
+    click("bCalcular");
+    EXPECT_EQ(cellText("grddis", 2, 13), "15.02");
+}
+
+TEST_F(BalanceHidroTest, TheFirstMonthOutlivesALoad) {
+    year(temperatures, rains);
+    click("bCalcular");
+    EXPECT_EQ(text("txtMesIni"), "Mayo");
+    std::vector<float> dry;
+    for (const std::string& T : temperatures) {
+        dry.push_back(std::stof(T));
+        dry.push_back(0);
+    }
+    writeSingles(file("seco.TP"), dry);
+    load(file("seco.TP"));
+    EXPECT_EQ(text("txtMesIni"), "");
+    click("bCalcular");
+    EXPECT_EQ(text("txtMesIni"), "Mayo");
+}
+
+TEST_F(BalanceHidroTest, AFileThatWasSavedHandsItsMonthsToTheNextRun) {
+    year({"22.6", "23.1", "23.9", "24.4", "24.1"}, Year(5, "8"));
+    save(file("cinco.TP"));
+    click("bCalcular");
+    expectMessage(twelveMonths);
+    EXPECT_EQ(cellText("grddis", 2, 5), "10.818");
+    EXPECT_EQ(cellText("grddis", 2, 6), "0.0");
+    EXPECT_EQ(cellText("grddis", 2, 13), "52.48");
+    EXPECT_EQ(cellText("grddis", 6, 5), "8.0");
+    EXPECT_EQ(cellText("grddis", 6, 6), "0.0");
+}
+
 TEST_F(BalanceHidroTest, FewerMonthsGoOnWithWhatTheArraysHold) {
     click("bCalcular");
     EXPECT_EQ(messages(), (std::vector{twelveMonths, inadequate}));

@@ -178,6 +178,42 @@ TEST_F(BlaneyCriddleTest, AThirteenthMonthIsInadequate) {
     expectMessage(notCalculated);
 }
 
+// 10 U in m/s leaves the doubles, before Kc is asked for.
+TEST_F(BlaneyCriddleTest, AWindPastTheDoublesIsInadequate) {
+    values(temperatures);
+    measure("7.2", "30", "1e308");
+    click("optKcTabla");
+    click("bCalcular");
+    expectMessage(inadequate);
+    EXPECT_EQ(yearOf("grddis"), noResults);
+}
+
+// Five months were read to be saved; of January f = (0.46 x 22.6 + 8.13) 0.26, as in a whole year,
+// and June on has the temperature 0: f = 8.13 x 0.29 = 2.3577, ETo = 1.295897.
+TEST_F(BlaneyCriddleTest, AFileThatWasSavedHandsItsMonthsToTheNextRun) {
+    values({"22.6", "23.1", "23.9", "24.4", "24.1"});
+    save(file("cinco.TB"));
+    estimate();
+    click("bCalcular");
+    expectMessage(twelveMonths);
+    EXPECT_EQ(rowText("grddis", 5), estimatedAtTenNorth[4]);
+    EXPECT_EQ(rowText("grddis", 6), "|0.0|0.29|1.296|1.102|33.05");
+}
+
+// The light of the latitude is taken before the choices are looked at.
+TEST_F(BlaneyCriddleTest, TheLightIsTakenBeforeAChoiceIsMissing) {
+    values(temperatures);
+    choose("cobLatitud", "20");
+    choose("cobLatitudNS", "S");
+    click("bCalcular");
+    EXPECT_EQ(messages().size(), 1U);
+    choose("cobLatitud", "55");
+    estimate();
+    click("bCalcular");
+    // f = (0.46 x 22.6 + 8.13) 0.30 = 5.5578; ETo = -2.5 + 1.61 f = 6.448058.
+    EXPECT_EQ(rowText("grddis", 1), "Ene|22.6|0.3|6.448|5.481|169.91");
+}
+
 TEST_F(BlaneyCriddleTest, LimpiarEmptiesTheDataAndClearsTheFlag) {
     values(temperatures);
     estimate();

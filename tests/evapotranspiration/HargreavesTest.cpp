@@ -328,6 +328,54 @@ TEST_F(HargreavesTest, AMonthThatIsNoneEndsAFirstRunOnceItsDataAreWhole) {
     EXPECT_TRUE(messages().empty());
 }
 
+// The month is taken before a temperature is missing, so that a later one that is none is June: as
+// in June at the equator.
+TEST_F(HargreavesTest, TheMonthIsTakenBeforeATemperatureIsMissing) {
+    enter("txtLatitud", "0");
+    choose("cobMes", "Junio");
+    click("bCalcular");
+    expectMessage(told("Ingresar un valor adecuado para la temperatura mínima"));
+    fill();
+    choose("cobMes", "x");
+    click("bCalcular");
+    EXPECT_TRUE(messages().empty());
+    EXPECT_EQ(text("txtRa"), "13.85");
+}
+
+TEST_F(HargreavesTest, ALatitudePastTheDoublesEndsBeforeAnythingIsMissing) {
+    enter("txtLatitud", "1e308");
+    click("bCalcular");
+    EXPECT_TRUE(fatal(6));
+    EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(HargreavesTest, TheCoefficientOutlivesClearingAndTheTable) {
+    fill();
+    click("bCalcular");
+    click("bLimpiar");
+    enter("txtLatitud", "10");
+    enter("txtTmin", "18.5");
+    enter("txtTmax", "30.5");
+    click("bCalcular");
+    expectMessage(noCrop);
+    EXPECT_EQ(text("txtETc"), "4.22");
+    click("optKcTabla");
+    enter("txtKcTabla", "2");
+    click("bCalcular");
+    click("optKcEstimado");
+    click("bCalcular");
+    expectMessage(noCrop);
+    // 2 x 4.446203.
+    EXPECT_EQ(text("txtETc"), "8.89");
+}
+
+TEST_F(HargreavesTest, WritesTheSeparatorOfTheLocale) {
+    fill();
+    platform.separator = ",";
+    click("bCalcular");
+    expectResults("13,19", "4,45", "4,22");
+}
+
 TEST_F(HargreavesTest, EndsInPolarDay) {
     fill();
     enter("txtLatitud", "70");

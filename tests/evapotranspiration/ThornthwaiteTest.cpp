@@ -114,6 +114,43 @@ TEST_F(ThornthwaiteTest, TakesTheFactorsOfTheLatitude) {
     EXPECT_EQ(cellText("grddis", 12, 5), "96.412");
 }
 
+// Temperatures are singles: 20.005 is shown by its seven digits, 20.01. January in 40 digits:
+// i = 8.159869, ETosc = 62.72834, with 1.31 82.17412, a day 2.650778.
+TEST_F(ThornthwaiteTest, ShowsTemperaturesAndFactorsWithTwoDecimals) {
+    Year T = temperatures;
+    T[0] = "20.005";
+    values(T);
+    choose("cobLatitud", "45");
+    choose("cobLatitudNS", "S");
+    click("bCalcular");
+    EXPECT_EQ(rowText("grddis", 1), "Ene|20.01|8.16|62.728|1.31|82.174|2.65");
+    EXPECT_EQ(columnOf("grddis", 4), (Year{"1.31", "1.09", "1.07", "0.92", "0.83", "0.73", "0.8",
+                                           "0.91", "0.99", "1.17", "1.24", "1.34"}));
+}
+
+// Twelve times 5.8: i = 12 (5.8 / 5)^1.514 = 15.0234834, a = 0.746498144.
+TEST_F(ThornthwaiteTest, TheExponentHasAtLeastOneDecimal) {
+    values(Year(12, "5.8"));
+    click("bCalcular");
+    EXPECT_EQ(text("txti"), "15.0235");
+    EXPECT_EQ(text("txtA"), "0.7465");
+}
+
+TEST_F(ThornthwaiteTest, TheFactorsAreTakenBeforeASurplusMonthIsFound) {
+    Year thirteen = temperatures;
+    thirteen.push_back("20");
+    values(thirteen);
+    choose("cobLatitud", "20");
+    choose("cobLatitudNS", "S");
+    click("bCalcular");
+    expectMessage(inadequate);
+    cell("grdt", 13, 1);
+    click("mnuEditEliminar");
+    choose("cobLatitud", "12");
+    click("bCalcular");
+    EXPECT_EQ(rowText("grddis", 1), "Ene|22.6|9.815|87.028|1.14|99.212|3.2");
+}
+
 TEST_F(ThornthwaiteTest, TheEquatorIsNorthAndSouth) {
     values(temperatures);
     choose("cobLatitud", "0");
@@ -297,6 +334,29 @@ TEST_F(ThornthwaiteTest, FilesHoldTheTemperatures) {
     EXPECT_EQ(rowText("grdt", 3), "Mar|7.0");
     EXPECT_EQ(rowText("grdt", 4), "[->]|");
     EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(ThornthwaiteTest, LoadedTemperaturesHaveTwoDecimalsAtMost) {
+    writeSingles(file("cuatro.TM"), {20.005F, 1.005F, -0.004F, 0.045F});
+    load(file("cuatro.TM"));
+    EXPECT_EQ(rowText("grdt", 1), "Ene|20.01");
+    EXPECT_EQ(rowText("grdt", 2), "Feb|1.01");
+    EXPECT_EQ(rowText("grdt", 3), "Mar|0.0");
+    EXPECT_EQ(rowText("grdt", 4), "Abr|0.05");
+}
+
+// The grid is read before the file is opened: 13 months are one too many, and a value past the
+// singles comes before that, silently.
+TEST_F(ThornthwaiteTest, ACancelledSaveReadsTheGridAllTheSame) {
+    Year thirteen(13, "20");
+    thirteen[0] = "1e39";
+    values(thirteen);
+    click("bCrear");
+    EXPECT_FALSE(platform.ending);
+    EXPECT_TRUE(messages().empty());
+    put(1, 1, "20");
+    click("bCrear");
+    EXPECT_TRUE(fatal(9));
 }
 
 TEST_F(ThornthwaiteTest, SavingAThirteenthMonthIsFatal) {
