@@ -37,6 +37,18 @@ bool isHeading(const std::vector<std::string_view>& row) {
     });
 }
 
+/// Why a cell can't be entered, its row and column counted from 1.
+std::string refusalOf(const std::string& cell, std::size_t row, std::size_t column) {
+    std::string text(nothingPasted);
+    text += cell.empty() ? "la celda" : "el dato";
+    text += " de la fila " + std::to_string(row) + ", columna " + std::to_string(column);
+    if (cell.empty())
+        return text += " está vacía";
+    text += " no es un número: «";
+    text += cell;
+    return text += "»";
+}
+
 } // namespace
 
 PastedBlock::PastedBlock(std::string_view text) {
@@ -78,10 +90,11 @@ void PastedBlock::chooseSign() {
 
 std::ptrdiff_t PastedBlock::unread(DecimalSign sign) const {
     std::ptrdiff_t count = 0;
-    for (const auto& row : cells_)
+    for (const auto& row : cells_) {
         count += std::count_if(row.begin(), row.end(), [sign](const std::string& cell) {
             return foreignNumber(cell, sign).empty();
         });
+    }
     return count;
 }
 
@@ -106,11 +119,7 @@ void PastedBlock::read(DecimalSign sign) {
             row.push_back(foreignNumber(cell, sign));
             if (!row.back().empty() || !refusal_.empty())
                 continue;
-            const std::string place = " de la fila " + std::to_string(i + (headings_ ? 2 : 1)) +
-                                      ", columna " + std::to_string(j + 1);
-            refusal_ = std::string(nothingPasted) +
-                       (cell.empty() ? "la celda" + place + " está vacía"
-                                     : "el dato" + place + " no es un número: «" + cell + "»");
+            refusal_ = refusalOf(cell, i + (headings_ ? 2 : 1), j + 1);
         }
     }
 }
