@@ -187,10 +187,11 @@ void GridView::paste(const QString& text) {
     if (!refusal.empty() || !settleCommas(block, *this))
         return;
     session_.act([&] { block.enter(session_.program(), grid_); });
-    if (block.hasHeadings() && !session_.program().ended())
+    if (block.hasHeadings() && !session_.program().ended()) {
         showNote(*viewport(), visualRect(model_.indexOf(grid_.Row(), grid_.Col())),
                  QStringLiteral("La primera fila no tiene números: se dejó fuera como "
                                 "encabezado."));
+    }
 }
 
 } // namespace caudalera

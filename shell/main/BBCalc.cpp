@@ -79,7 +79,8 @@ void BBCalc::limpiarTodo() {
 
 void BBCalc::limpiarOperacion() {
     olvidarOperacion();
-    mostrar(primero_);
+    // What is typed next goes on with it, unless a new number was about to begin.
+    pantalla_ = textoDe(primero_);
 }
 
 bool BBCalc::resolver(std::optional<Real> resultado) {

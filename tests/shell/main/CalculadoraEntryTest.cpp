@@ -24,9 +24,8 @@ TEST_F(CalculadoraTest, ThePointIsAppendedOnce) {
 }
 
 TEST_F(CalculadoraTest, ADigitOrPointBeginsANumberBehindAnythingButAnEntry) {
-    for (const char* before :
-         {"C", "12 =", "3 + 4 =", "9 sqrt", "9 +", "9 - 4 *", "7 MS", "7 M+", "7 MC", "7 MR",
-          "5 sin", "pi", "ran", "1 asin", "12 CE", "12 paste"}) {
+    for (const char* before : {"C", "12 =", "3 + 4 =", "9 sqrt", "9 +", "9 - 4 *", "7 MS", "7 M+",
+                               "7 MC", "7 MR", "5 sin", "pi", "ran", "1 asin", "12 paste"}) {
         EXPECT_EQ(after(std::string(before) + " 8"), "8") << before;
         EXPECT_EQ(after(std::string(before) + " .8"), ".8") << before;
         messages();
@@ -84,7 +83,9 @@ TEST_F(CalculadoraTest, CEGoesBackToTheFirstOperand) {
     EXPECT_EQ(after("12 + 5 CE ="), "12.");
     EXPECT_EQ(after("12 + 5 CE + 3 ="), "15.") << "the 5 is forgotten";
     EXPECT_EQ(after("12 + 5 CE - ="), "12.") << "and with it the second operand";
-    EXPECT_EQ(after("12 + 5 CE 4 + 3 ="), "7.");
+    EXPECT_EQ(after("12 + 5 CE 4 + 3 ="), "15.4") << "what is typed goes on with it";
+    EXPECT_EQ(after("8 1 CE 9"), "81.9");
+    EXPECT_EQ(after("12 + CE 3"), "3") << "the operator's new number still begins";
     EXPECT_EQ(after("1 + 2 * 5 CE"), "3.");
     EXPECT_EQ(after("CE"), "0.");
     EXPECT_EQ(after("3 M+ CE MR"), "3.") << "the memory stays";

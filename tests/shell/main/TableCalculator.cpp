@@ -196,9 +196,10 @@ void TableCalculator::pressClear(const std::string& name) {
     pending_ = 0;
     second_ = 0;
     inSecond_ = false;
-    beginsNumber_ = true;
-    if (name == "C")
+    if (name == "C") {
         first_ = 0;
+        beginsNumber_ = true;
+    }
     display_ = show(first_);
 }
 
