@@ -4,18 +4,20 @@
 // solved from the data in rational arithmetic (fractions of whole numbers, no rounding at all), the
 // potential equations with logarithms of 60 digits.
 //
-// Every digit that a window shows is right in every one of these sets; with four or five decimals
-// that are not many where a coefficient is small:
-// - Norris: a0 and a1 with 4 to 5 digits; the coefficients of X^2 and X^3, near 1E-6 and 1E-9, show
+// Every digit that a window shows is right in every one of these sets, but for Se of the exact line
+// NoInt1, which is what rounding leaves; with four or five decimals that are not many where a
+// coefficient is small:
+// - Norris: a0 and a1 with 4 to 6 digits; the coefficients of X^2 and X^3, near 1E-6 and 1E-9, show
 //   as 0.00.
 // - Pontius: a0 with 1 digit, or 3 in the line; all others, below 1E-6, show as 0.00. The windows
 //   evaluate with the unrounded ones: Y at 3 000 000 has all of its five digits.
-// - Wampler1, 3, 4, 5: 8 to 11 digits of each coefficient, Wampler2: 3 to 5. Their certified model
-//   is of the fifth degree, which no window fits.
+// - Wampler1, 3, 4, 5: 8 to 11 digits of each coefficient, Wampler2: 3 to 5, in the
+//   line 6 and 7. Their certified model is of the fifth degree, which no window fits.
 // - NoInt1, NoInt2: certified for a line through the origin, which no window fits: all of them have
-//   a constant. With one, NoInt1 is an exact line.
-// - Longley: 3 to 9 digits of the fits on its first two and three columns. All six need another
-//   method than windows have.
+//   a constant. With one, NoInt1 is an exact line; the line of NoInt2 has 6 digits, R 5, and its
+//   three pairs are too few for the polynomials.
+// - Longley: 2 to 9 digits of the fits on its first two and three columns. No window has six
+//   variables.
 
 #include "tests/regression/RegressionTest.h"
 #include "tests/support/PublishedTable.h"

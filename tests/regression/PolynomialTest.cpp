@@ -265,6 +265,42 @@ TEST_P(PolynomialTest, DrawsWhatTheLastReadingOfTheGridLeft) {
     expectDrawn({-2, -1, 0, 1, 2}, {2, 1, 0, 1, -2}, degree.fitted);
 }
 
+// Values of an exact polynomial, 1 + x + x^2 and 1 + 2x + 3x^2 + x^3, whose sums leave a hair below
+// 0 where the standard error takes its root.
+TEST_P(PolynomialTest, AnErrorBelowZeroByRoundingEndsTheProgram) {
+    calculate(
+        GetParam() == 0
+            ? Rows{{"0.1", "1.11"}, {"0.2", "1.24"}, {"0.3", "1.39"}, {"0.4", "1.56"}}
+            : Rows{{"1", "7"}, {"2", "25"}, {"3", "61"}, {"4", "121"}, {"5", "211"}, {"6", "337"}});
+    EXPECT_TRUE(fatal(5));
+    EXPECT_TRUE(messages().empty());
+}
+
+TEST_P(PolynomialTest, AReadingThatDidNotFitIsDrawnWithTheFormerCurve) {
+    calculate(pairs);
+    replaceRows({{"2", "1"}, {"2", "2"}, {"2", "3"}, {"2", "5"}, {"2", "4"}});
+    click("bCalcular");
+    expectMessage(singular);
+    click("bGraficar");
+    expectDrawn({2, 2, 2, 2, 2}, {1, 2, 3, 5, 4}, degree.fitted);
+    replaceRows({{"9", "8"}, {"7", "6"}});
+    click("bCalcular");
+    expectMessage(degree.tooFew);
+    click("bGraficar");
+    expectDrawn({9, 7}, {8, 6}, {degree.fitted[0], degree.fitted[1]});
+}
+
+// Se comes from the sums, which lose the digits that Y has in front. With 10000000 on every Y, in
+// doubles: sum(y^2) - a0 sum(y) - a1 sum(xy) - a2 sum(x^2 y) (and a3 sum(x^3 y)) leaves 2.484 in
+// place of 88/35 in the second degree, and 0.884 in place of 32/35 in the third.
+TEST_P(PolynomialTest, TheStandardErrorIsThatOfTheSums) {
+    Rows high = pairs;
+    for (auto& pair : high)
+        pair[1] = std::to_string(std::stoi(pair[1]) + 10000000);
+    calculate(high);
+    EXPECT_EQ(cellText("grdecua", 1, 4), GetParam() == 0 ? "1.1144" : "0.9402");
+}
+
 // A save reads the grid too; what was fitted stays, and is 0 behind its end.
 TEST_P(PolynomialTest, ASaveIsAReading) {
     calculate(pairs);

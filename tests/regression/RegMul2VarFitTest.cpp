@@ -110,6 +110,41 @@ TEST_F(RegMul2VarTest, ASingularSystemHasItsOwnMessage) {
     expectMessage(notCalculated);
 }
 
+// X2 = X1^2 is no line, but ln X2 = 2 ln X1.
+TEST_F(RegMul2VarTest, ASystemSingularInTheLogarithmsAloneLosesTheLinearFitToo) {
+    calculate(trios);
+    replaceRows(
+        {{"1", "1", "2"}, {"2", "4", "3"}, {"3", "9", "5"}, {"4", "16", "9"}, {"5", "25", "11"}});
+    click("bCalcular");
+    expectMessage({"El sistema que se origina tiene infinitas soluciones", "", Icon::error});
+    EXPECT_EQ(equations(), triosEquations);
+    enter("txtvxx1", "6");
+    enter("txtvxx2", "4");
+    click("optLineal");
+    // 2/7 + 6 x 3/4 + 4 x 55/28.
+    EXPECT_EQ(text("txtvyy"), "12.6429");
+}
+
+// Neither variable tells anything of Y: R2 is 0, and rounding takes it below.
+TEST_F(RegMul2VarTest, AQualityBelowZeroIsTakenForTheSameFailure) {
+    calculate({{"1", "1", "2.6"}, {"2", "1", "0.6"}, {"1", "2", "0.6"}, {"2", "2", "2.6"}});
+    const auto told = messages();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_TRUE(told[0].text.starts_with("Ingresó valores para X1, X2 ó Y")) << told[0].text;
+    EXPECT_EQ(equations(), noEquations);
+    EXPECT_FALSE(program.ended());
+}
+
+// Se is the same wherever Y stands: from the residuals it keeps its digits.
+TEST_F(RegMul2VarTest, TheStandardErrorIsThatOfTheResiduals) {
+    Rows high = trios;
+    for (auto& trio : high)
+        trio[2] = std::to_string(std::stoi(trio[2]) + 10000000);
+    calculate(high);
+    EXPECT_EQ(cellText("grdecua", 1, 1), "Y = 10000000.2857 +0.7500 *X1 +1.9643 *X2");
+    EXPECT_EQ(cellText("grdecua", 1, 4), "0.3780");
+}
+
 // X1 is 0 everywhere, which has no logarithm either.
 TEST_F(RegMul2VarTest, TheSingularSystemComesBeforeTheLogarithms) {
     calculate({{"0", "1", "3"}, {"0", "2", "5"}, {"0", "3", "8"}, {"0", "4", "9"}});
@@ -161,6 +196,10 @@ TEST_F(RegMul2VarTest, EnterGoesThroughTheFieldsAndEvaluatesLinearly) {
     key("txtvxx2", Key::Kind::enter);
     EXPECT_TRUE(control<Option>("optLineal").checked());
     EXPECT_EQ(text("txtvyy"), "12.6429");
+    // And again with the option set already: 2/7 + 3 + 55/7.
+    enter("txtvxx1", "4");
+    key("txtvxx2", Key::Kind::enter);
+    EXPECT_EQ(text("txtvyy"), "11.1429");
 }
 
 TEST_F(RegMul2VarTest, AsksForACalculationBeforeItLooksAtTheFields) {

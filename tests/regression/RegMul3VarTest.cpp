@@ -139,6 +139,29 @@ TEST_F(RegMul3VarTest, ASingularSystemHasItsOwnMessage) {
     expectMessage(notCalculated);
 }
 
+// X2 = X1^2 is no line, but ln X2 = 2 ln X1.
+TEST_F(RegMul3VarTest, ASystemSingularInTheLogarithmsAloneLosesTheLinearFitToo) {
+    calculate(quartets);
+    replaceRows({{"1", "1", "3", "2"},
+                 {"2", "4", "1", "3"},
+                 {"3", "9", "2", "5"},
+                 {"4", "16", "5", "9"},
+                 {"5", "25", "4", "11"},
+                 {"6", "36", "2", "12"}});
+    click("bCalcular");
+    expectMessage(singular);
+    EXPECT_EQ(equations(), quartetsEquations);
+}
+
+// Se is the same wherever Y stands: from the residuals it keeps its digits.
+TEST_F(RegMul3VarTest, TheStandardErrorIsThatOfTheResiduals) {
+    Rows high = quartets;
+    for (auto& quartet : high)
+        quartet[3] = std::to_string(std::stoi(quartet[3]) + 10000000);
+    calculate(high);
+    EXPECT_EQ(cellText("grdecua", 1, 4), "0.5438");
+}
+
 TEST_F(RegMul3VarTest, TakesFiveHundredQuartetsAndFailsOnOneMore) {
     calculate(product(500));
     EXPECT_TRUE(messages().empty());

@@ -121,6 +121,23 @@ TEST_F(RegreLinealTest, PairsOfOneYEndTheProgram) {
     EXPECT_TRUE(fatal(11));
 }
 
+// Three times the same Y, whose squares rounding takes below n times the square of their mean, onto
+// it, or above.
+TEST_F(RegreLinealTest, EqualYThatRoundingPartsEndTheProgramByARoot) {
+    calculate({{"1", "0.1"}, {"2", "0.1"}, {"3", "0.1"}});
+    EXPECT_TRUE(fatal(5));
+}
+
+TEST_F(RegreLinealTest, EqualYThatRoundingKeepsEndTheProgramByAQuotient) {
+    calculate({{"1", "0.3"}, {"2", "0.3"}, {"3", "0.3"}});
+    EXPECT_TRUE(fatal(11));
+}
+
+TEST_F(RegreLinealTest, EqualYThatRoundingPartsUpwardAreFitted) {
+    calculate({{"1", "0.7"}, {"2", "0.7"}, {"3", "0.7"}});
+    EXPECT_EQ(equations(), Texts{"Lineal|Y = 0.7 + 0.0 * X|0.0|0.0"});
+}
+
 TEST_F(RegreLinealTest, TakesFiveHundredAndFiftyPairs) {
     calculate(diagonal(550));
     EXPECT_TRUE(messages().empty());
