@@ -212,6 +212,35 @@ TEST_F(ParEstAgru, ReportBeforeAnyCalculationHasNoClasses) {
                             noSorted);
 }
 
+// Marks 5, 10, 15, 20 with 2, 4, 0 and 1 values about 10: S2 = 150 over 6, S3 = 750, the skew 49
+// (750 / 7) / (6 * 5 * 125), S4 = 11250, the kurtosis 343 (11250 / 7) / (6 * 5 * 4 * 625).
+TEST_F(ParEstAgru, EveryParameterHasItsMask) {
+    calculate({"6", "9", "11", "5", "20", "12", "12"});
+    const Texts expected = {"10.0000", "25.0", "5.0", "0.5000", "1.4000", "7.3500"};
+    for (long row = 1; row <= 6; ++row)
+        EXPECT_EQ(cellText("grdParam", row, 1), expected[static_cast<std::size_t>(row - 1)]) << row;
+}
+
+// Marks -24, -16, -8 with 3, 0 and 1 values about -20: S2 = 192 over 3, S3 = 1536, the skew 16 *
+// 384 / (3 * 2 * 512), S4 = 21504, the kurtosis 64 * 5376 / (3 * 2 * 1 * 4096).
+TEST_F(ParEstAgru, NegativeSeriesHaveANegativeVariation) {
+    calculate({"-22", "-8", "-23", "-24"});
+    const Texts expected = {"-20.0000", "64.0", "8.0", "-0.4000", "2.0000", "14.0000"};
+    for (long row = 1; row <= 6; ++row)
+        EXPECT_EQ(cellText("grdParam", row, 1), expected[static_cast<std::size_t>(row - 1)]) << row;
+}
+
+TEST_F(ParEstAgru, TheHiddenListOfSortedValuesIsReportedToo) {
+    calculate({"2", "1", "4", "3"});
+    click("bOrdenar");
+    click("bLimpiar");
+    click("bReporte");
+    EXPECT_TRUE(report().ends_with(
+        "Serie de datos ordenados:\n\n" + seriesHeading +
+        rows({" 1\t\t1.0\t\t", " 2\t\t2.0\t\t", " 3\t\t3.0\t\t", " 4\t\t4.0\t\t"}) + rule45 +
+        "\n"));
+}
+
 // Nothing takes the number of classes back, neither clearing nor closing the window.
 TEST_F(ParEstAgru, NumberOfClassesOutlivesTheWindow) {
     calculate(oneToTen);

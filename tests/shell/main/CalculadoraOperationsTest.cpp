@@ -199,6 +199,8 @@ TEST_F(CalculadoraTest, DegreesAreWholeAndPositive) {
     EXPECT_EQ(after("30.51 sin"), after("31 sin"));
     EXPECT_EQ(after("31.5 sin"), "0.529919264233204") << "half to the even 32";
     EXPECT_EQ(after("100 sin"), "0.984807753012208");
+    // 130 degrees and 5965232 turns, past 32 bits.
+    EXPECT_EQ(after("2147483650 sin"), "0.766044443118979");
     EXPECT_EQ(after("45 cos"), "0.707106781186548");
     EXPECT_EQ(after("60 cos"), "0.500000000000001");
     EXPECT_EQ(after("0 cos"), "1.");
