@@ -34,6 +34,14 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         selectAllCells();
         return;
     }
+    if (editor_ && event->key() == Qt::Key_F2) {
+        openCell();
+        return;
+    }
+    if (editor_ && event->key() == Qt::Key_Delete) {
+        emptyCell();
+        return;
+    }
     const bool selecting = event->modifiers() & Qt::ShiftModifier;
     const auto kind = commandKey(*event);
     if (kind && !(selecting && (*kind == Key::Kind::up || *kind == Key::Kind::down))) {
@@ -49,6 +57,20 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     } else {
         event->ignore();
     }
+}
+
+void GridView::openCell() {
+    typeText(QStringLiteral(" "));
+}
+
+void GridView::emptyCell() {
+    // The box opens with the cell's text and gives its own, empty, back to the cell.
+    session_.act([this] {
+        Program& program = session_.program();
+        program.key(grid_, {Key::Kind::character, U' '});
+        program.editText(*grid_.editor, "");
+        program.focus(grid_);
+    });
 }
 
 bool GridView::navigate(const QKeyEvent& event) {
@@ -147,6 +169,14 @@ void GridView::mousePressEvent(QMouseEvent* event) {
         moveTo({cell.row, grid_.Cols() - 1}, true);
 }
 
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    dragging_ = false;
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (editor_ && event->button() == Qt::LeftButton && index.column() >= grid_.FixedCols())
+        openCell();
+}
+
 void GridView::mouseMoveEvent(QMouseEvent* event) {
     if (!dragging_ || !(event->buttons() & Qt::LeftButton))
         return;
@@ -167,10 +197,6 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
             : viewport()->mapToGlobal(
                   visualRect(model_.indexOf(grid_.Row(), grid_.Col())).bottomLeft());
     openMenu(position);
-}
-
-void GridView::copy() const {
-    session_.platform().setClipboardText(selectedText().toStdString());
 }
 
 void GridView::paste(const QString& text) {

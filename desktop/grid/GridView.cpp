@@ -4,10 +4,8 @@
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
 
-#include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QMenu>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
@@ -220,43 +218,6 @@ void GridView::focusInEvent(QFocusEvent* event) {
 void GridView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
     viewport()->update();
-}
-
-QString GridView::selectedText() const {
-    const auto [firstRow, lastRow] = std::minmax({grid_.Row(), grid_.RowSel()});
-    const auto [firstCol, lastCol] = std::minmax({grid_.Col(), grid_.ColSel()});
-    QStringList rows;
-    for (long row = firstRow; row <= lastRow; ++row) {
-        QStringList cells;
-        for (long col = firstCol; col <= lastCol; ++col)
-            cells.append(toQString(grid_.TextMatrix(row, col)));
-        rows.append(cells.join(u'\t'));
-    }
-    while (rows.size() > 1 && rows.constLast().trimmed().isEmpty())
-        rows.removeLast();
-    return rows.join(u'\n');
-}
-
-void GridView::openMenu(const QPoint& globalPosition) {
-    auto* menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("menúDeCuadrícula"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (grid_.popup) {
-        for (MenuEntry* entry : grid_.popup->entries) {
-            if (!entry) {
-                menu->addSeparator();
-                continue;
-            }
-            QAction* action = menu->addAction(toQString(entry->caption), this, [this, entry] {
-                session_.act([&] { session_.program().click(*entry); });
-            });
-            action->setObjectName(toQString(entry->name()));
-            action->setEnabled(entry->enabled);
-        }
-    } else {
-        menu->addAction(QStringLiteral("Copiar"), QKeySequence::Copy, this, &GridView::copy);
-    }
-    menu->popup(globalPosition);
 }
 
 void GridControlView::sync() {

@@ -6,6 +6,8 @@
 
 #include <QTableView>
 
+class QMenu;
+
 namespace caudalera {
 
 class GridEditor;
@@ -27,6 +29,8 @@ public:
     /// one that holds something are left out.
     QString selectedText() const;
     void copy() const;
+    /// With the titles of the columns above them.
+    void copyWithHeadings() const;
     /// Enters a block of numbers from the current cell on, or tells why not.
     void paste(const QString& text);
 
@@ -39,7 +43,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void updateGeometries() override;
@@ -70,6 +74,14 @@ private:
     void syncScroll(bool moved);
     void syncEditor();
     void openMenu(const QPoint& globalPosition);
+    /// The entries of a grid that has no menu of its own.
+    void offerCopying(QMenu& menu);
+    /// The selected columns of some rows.
+    QString rowsText(long firstRow, long lastRow) const;
+    /// Opens the edit box with the current cell's text.
+    void openCell();
+    /// Empties the current cell as the edit box does.
+    void emptyCell();
 
     Session& session_;
     MSFlexGrid& grid_;

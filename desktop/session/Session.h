@@ -64,6 +64,10 @@ public:
     /// Inside an act or a sync: views must not turn programmatic changes into events.
     bool busy() const { return depth_ > 0; }
 
+    /// The decimal sign of numbers that are copied from grids, which holds for the run; as they are
+    /// shown, if null.
+    QChar copyDecimal;
+
     /// nullptr while the window has none.
     QWidget* viewOf(const Window& window) const;
 

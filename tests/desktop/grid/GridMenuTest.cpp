@@ -183,6 +183,53 @@ private slots:
                  QStringLiteral("95"));
     }
 
+    void resultsAreCopiedWithTheirHeadingsAndEitherDecimalSign() {
+        desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
+        desktop_->clickButton("bCalcular");
+        auto& results = desktop_->widget<GridView>("grdecua");
+        const auto choose = [&](const char* name) {
+            results.setFocus();
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+            QApplication::sendEvent(results.viewport(), &event);
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            menu->findChild<QAction*>(QString::fromUtf8(name))->trigger();
+            menu->close();
+        };
+        const auto copied = [&] {
+            choose("copiarConEncabezados");
+            return QGuiApplication::clipboard()->text();
+        };
+        auto& grid = desktop_->control<MSFlexGrid>("grdecua");
+        desktop_->session.act([&] {
+            desktop_->program().selectCell(grid, 1, 2);
+            desktop_->program().act([&] { grid.setSelectionEnd(1, 3); });
+        });
+        const std::string r = grid.TextMatrix(1, 2);
+        const std::string r2 = grid.TextMatrix(1, 3);
+        const auto both = [&](char from, char to) {
+            QString row = QString::fromStdString(r + "\t" + r2);
+            return QStringLiteral("R\tR2\n") + row.replace(from, to);
+        };
+        QVERIFY(r.find('.') != std::string::npos);
+        QCOMPARE(copied(), both('.', '.'));
+        choose("decimalComa");
+        QCOMPARE(copied(), both('.', ','));
+        choose("decimalPunto");
+        QCOMPARE(copied(), both('.', '.'));
+    }
+
+    void anEquationIsCopiedAsItStands() {
+        desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
+        desktop_->clickButton("bCalcular");
+        desktop_->session.copyDecimal = u',';
+        auto& results = desktop_->widget<GridView>("grdecua");
+        auto& grid = desktop_->control<MSFlexGrid>("grdecua");
+        desktop_->session.act([&] { desktop_->program().selectCell(grid, 1, 1); });
+        QCOMPARE(results.selectedText(), QString::fromStdString(grid.TextMatrix(1, 1)));
+        QVERIFY(results.selectedText().contains(u'.'));
+    }
+
     void resultsAreCopiedButNotPastedInto() {
         desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
         desktop_->clickButton("bCalcular");

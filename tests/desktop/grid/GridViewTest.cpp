@@ -79,6 +79,37 @@ private slots:
         QCOMPARE(editor().text(), QStringLiteral("9"));
     }
 
+    void f2AndADoubleClickOpenTheBoxWithTheWholeValueSelected() {
+        desktop_->typeValues({"1.5", "2"});
+        desktop_->clickCell(1, 1);
+        desktop_->press(Qt::Key_F2);
+        QCOMPARE(editor().text(), QStringLiteral("1.5"));
+        QCOMPARE(editor().selectedText(), QStringLiteral("1.5"));
+        desktop_->press(Qt::Key_Escape);
+        QTest::mouseDClick(desktop_->gridView().viewport(), Qt::LeftButton, {},
+                           desktop_->centerOf(1, 2));
+        QVERIFY(editor().isVisible());
+        QCOMPARE(editor().text(), QStringLiteral("2.0"));
+        desktop_->type("7");
+        desktop_->press(Qt::Key_Return);
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|7.0"));
+    }
+
+    void deleteEmptiesTheCurrentCell() {
+        desktop_->typeValues({"1.5", "2", "3", "4"});
+        desktop_->clickCell(1, 2);
+        desktop_->press(Qt::Key_Delete);
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.5|"));
+        QVERIFY(editor().isHidden());
+        QCOMPARE(QApplication::focusWidget(), &desktop_->gridView());
+        // Of a cell that is open, the key takes a character.
+        desktop_->clickCell(2, 1);
+        desktop_->press(Qt::Key_F2);
+        desktop_->press(Qt::Key_Home);
+        desktop_->press(Qt::Key_Delete);
+        QCOMPARE(editor().text(), QStringLiteral(".0"));
+    }
+
     void backspaceOnTheGridOpensTheBox() {
         desktop_->press(Qt::Key_Backspace);
         QVERIFY(editor().isVisible());
