@@ -53,6 +53,36 @@ TEST_F(PastedBlockRowsTest, ARowThatIsNotCompletedIsNoNewOne) {
     EXPECT_NE(block(1, "2").refusalFor(grid), "");
 }
 
+TEST_F(PastedBlockRowsTest, NewRowsMustBeWhole) {
+    MSFlexGrid& grid = filled("hojaDos", 3);
+    const std::string incomplete =
+        "No se pegó nada: cada fila nueva lleva 2 datos y las del bloque tienen 1";
+    EXPECT_EQ(block(2, "7").refusalFor(grid), incomplete);
+    EXPECT_EQ(block(1, "7").refusalFor(grid), "") << "a value into the append row";
+    grid.setRow(3);
+    EXPECT_EQ(block(1, "7").refusalFor(grid), "") << "over data";
+    EXPECT_EQ(block(2, "7").refusalFor(grid), incomplete) << "the second one is new";
+    grid.setRow(2);
+    EXPECT_EQ(block(2, "7").refusalFor(grid), "");
+    EXPECT_EQ(block(3, "7").refusalFor(grid), incomplete);
+}
+
+TEST_F(PastedBlockRowsTest, ABlockThatIsTooWideIsRefused) {
+    MSFlexGrid& grid = filled("hojaDos", 1);
+    EXPECT_EQ(block(1, "1\t2\t3").refusalFor(grid),
+              "No se pegó nada: el bloque tiene 3 columnas y desde la celda actual caben 2");
+    grid.setCol(2);
+    EXPECT_EQ(block(1, "1\t2").refusalFor(grid),
+              "No se pegó nada: el bloque tiene 2 columnas y desde la celda actual cabe 1");
+    EXPECT_EQ(block(1, "1").refusalFor(grid), "");
+}
+
+TEST_F(PastedBlockRowsTest, WhatIsNoBlockOfNumbersIsRefusedFirst) {
+    const MSFlexGrid& grid = filled("hojaDos", 1);
+    EXPECT_EQ(block(1, "1\tx\t3").refusalFor(grid),
+              "No se pegó nada: el dato de la fila 1, columna 2 no es un número: «x»");
+}
+
 TEST_F(PastedBlockRowsTest, TheLastRowsThatFindRoomAreEntered) {
     MSFlexGrid& grid = filled("hojaDos", 32764);
     const PastedBlock last = block(1, "1\t2");
