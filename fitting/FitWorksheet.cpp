@@ -87,6 +87,7 @@ void FitWorksheet::borrarCampos() {
     vaciarCampos();
     ajusteCalculado = false;
     lblmensaje.caption.clear();
+    lblmensaje.mark = Label::Mark::none;
     lblAjuste.caption = "Ajuste:";
 }
 
@@ -232,6 +233,7 @@ void FitWorksheet::escribirVeredicto(Real teorico) {
             (ajusta ? ". Los datos se ajustan a la distribución "
                     : ". Los datos no se ajustan a la distribución ") +
             std::string(textos_.distribucion) + ", con un nivel de significación del" + nivel.texto;
+        lblmensaje.mark = ajusta ? Label::Mark::yes : Label::Mark::no;
     }
 }
 

@@ -74,6 +74,7 @@ void Gamma3Window<Distribucion>::trasElAjuste() {
         (tipo == Momentos::lineales ? "lineales" : "ordinarios") +
         ", son incorrectos, por lo que los datos no se ajustan a la distribución " +
         std::string(enElVeredicto_);
+    this->lblmensaje.mark = Label::Mark::no;
 }
 
 template <typename Distribucion>

@@ -52,10 +52,12 @@ void frmDisGamma2par::antesDelAjuste() {
             "Los datos de la serie no son recomendables utilizarlos con distribución gamma de 3 "
             "parámetros, puesto que esta distribución, no puede tener parametros gamma o beta "
             "negativos";
+        lblmensaje.mark = Label::Mark::no;
     }
     if (conLineales.forma == 0 || conLineales.escala == 0) {
         lblmensaje.caption = "Los parámetros de la distribución gamma, calculados por el método de "
                              "los momentos lineales, son incorrectos";
+        lblmensaje.mark = Label::Mark::no;
     }
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/style/Style.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <algorithm>
 
 namespace caudalera {
@@ -102,6 +103,42 @@ WrappingLabel::WrappingLabel(int reservedLines, QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
+void WrappingLabel::setMark(Label::Mark mark) {
+    if (mark == mark_)
+        return;
+    mark_ = mark;
+    setIndent(mark == Label::Mark::none ? -1 : fontMetrics().height() + style::unit());
+    setAccessibleDescription(mark == Label::Mark::none  ? QString()
+                             : mark == Label::Mark::yes ? QStringLiteral("Se ajusta")
+                                                        : QStringLiteral("No se ajusta"));
+    update();
+}
+
+void WrappingLabel::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (mark_ == Label::Mark::none)
+        return;
+    const bool yes = mark_ == Label::Mark::yes;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double side = fontMetrics().height();
+    painter.translate(1, 0);
+    painter.scale(side / 16, side / 16);
+    // A full disc with a tick, or an empty one with a cross.
+    painter.setPen(QPen(yes ? style::accent() : palette().color(QPalette::WindowText), 1.5));
+    painter.setBrush(yes ? QBrush(style::accent()) : Qt::NoBrush);
+    painter.drawEllipse(QRectF(1, 1, 14, 14));
+    painter.setPen(QPen(yes ? style::accentText() : palette().color(QPalette::WindowText), 2,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    if (yes) {
+        painter.drawPolyline(QPolygonF({{4.5, 8.5}, {7, 11}, {11.5, 5.5}}));
+    } else {
+        painter.drawLine(QPointF(5.5, 5.5), QPointF(10.5, 10.5));
+        painter.drawLine(QPointF(10.5, 5.5), QPointF(5.5, 10.5));
+    }
+}
+
 int WrappingLabel::heightForWidth(int width) const {
     return std::max(QLabel::heightForWidth(width), reservedLines_ * fontMetrics().lineSpacing());
 }
@@ -142,6 +179,8 @@ void LabelView::sync() {
     const QString text = toQString(control().caption);
     if (label().text() != text)
         label().setText(text);
+    if (auto* wrapping = qobject_cast<WrappingLabel*>(&label()))
+        wrapping->setMark(static_cast<const Label&>(control()).mark);
 }
 
 } // namespace caudalera

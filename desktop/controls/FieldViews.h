@@ -66,12 +66,19 @@ class WrappingLabel : public QLabel {
 public:
     WrappingLabel(int reservedLines, QWidget* parent);
 
+    /// Shows a sign before the first line.
+    void setMark(Label::Mark mark);
+
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     int reservedLines_;
+    Label::Mark mark_ = Label::Mark::none;
 };
 
 class LabelView : public ControlView {

@@ -66,6 +66,9 @@ public:
     bool heading = false;
     /// May run over several lines in the room that it is given.
     bool wraps = false;
+    /// A sign beside the text that tells its outcome without reading it.
+    enum class Mark { none, yes, no };
+    Mark mark = Mark::none;
 };
 
 class Frame : public Control {

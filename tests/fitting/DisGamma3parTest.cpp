@@ -66,6 +66,7 @@ TEST_F(DisGamma3par, NegativeSkewIsInvalidByOrdinaryMoments) {
     EXPECT_EQ(text("lblmensaje"),
               "Los parámetros: Xo, gamma y ß calculada por momentos ordinarios, son incorrectos, "
               "por lo que los datos no se ajustan a la distribución gamma de 3 parámetros");
+    EXPECT_EQ(control<Label>("lblmensaje").mark, Label::Mark::no);
     click("optMomentoLi");
     click("bCalcular");
     EXPECT_EQ(text("lblmensaje"),

@@ -179,12 +179,16 @@ TEST_F(FitTemplate, EqualDeltasDoNotFit) {
     EXPECT_EQ(probe.lblmensaje.caption,
               "Como el delta teórico 0.68, es mayor que el delta tabular 0.68. Los datos no se "
               "ajustan a la distribución de prueba, con un nivel de significación del 5%");
+    EXPECT_EQ(probe.lblmensaje.mark, Label::Mark::no);
     // A little less, which the masks do not show, fits.
     probe.ordinary[3] += 1e-9;
     program.click(probe.bCalcular);
     EXPECT_EQ(probe.lblmensaje.caption,
               "Como el delta teórico 0.68, es menor que el delta tabular 0.68. Los datos se "
               "ajustan a la distribución de prueba, con un nivel de significación del 5%");
+    EXPECT_EQ(probe.lblmensaje.mark, Label::Mark::yes);
+    program.click(probe.bLimpiar);
+    EXPECT_EQ(probe.lblmensaje.mark, Label::Mark::none);
 }
 
 TEST_F(FitTemplate, VerdictReplacesAnEarlierMessageAndIsReplacedByALaterOne) {

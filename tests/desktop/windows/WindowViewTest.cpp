@@ -255,6 +255,32 @@ private slots:
         QCOMPARE(listText("cobMes"), QStringLiteral("may"));
     }
 
+    void aVerdictHasASignThatTellsItsOutcomes() {
+        desktop_->open("frmDisNormal");
+        auto& verdict = desktop_->widget<QLabel>("lblmensaje");
+        auto& model = desktop_->control<Label>("lblmensaje");
+        const auto shown = [&](Label::Mark mark) {
+            desktop_->session.act([&] { model.mark = mark; });
+            return verdict.grab().toImage();
+        };
+        const QImage none = shown(Label::Mark::none);
+        QVERIFY(verdict.accessibleDescription().isEmpty());
+        const QImage yes = shown(Label::Mark::yes);
+        QCOMPARE(verdict.accessibleDescription(), QStringLiteral("Se ajusta"));
+        const QImage no = shown(Label::Mark::no);
+        QCOMPARE(verdict.accessibleDescription(), QStringLiteral("No se ajusta"));
+        QVERIFY(none != yes && none != no);
+        // Also where colours are not told apart.
+        const auto grey = [](const QImage& image) {
+            return image.convertToFormat(QImage::Format_Grayscale8);
+        };
+        QVERIFY(grey(yes) != grey(no));
+        QCOMPARE(shown(Label::Mark::none), none);
+        desktop_->typeValues({"1", "2", "3", "4"});
+        desktop_->clickButton("bCalcular");
+        QCOMPARE(verdict.accessibleDescription(), QStringLiteral("Se ajusta"));
+    }
+
     void aTabComesForwardInModelAndView() {
         desktop_->open("frmQmaxRacional");
         auto& tabs = desktop_->widget<QTabWidget>("SSTab1");
