@@ -107,7 +107,8 @@ void WrappingLabel::setMark(Label::Mark mark) {
     if (mark == mark_)
         return;
     mark_ = mark;
-    setIndent(mark == Label::Mark::none ? -1 : fontMetrics().height() + style::unit());
+    setContentsMargins(mark == Label::Mark::none ? 0 : fontMetrics().height() + style::unit(), 0, 0,
+                       0);
     setAccessibleDescription(mark == Label::Mark::none  ? QString()
                              : mark == Label::Mark::yes ? QStringLiteral("Se ajusta")
                                                         : QStringLiteral("No se ajusta"));
