@@ -41,9 +41,7 @@ bool settleCommas(PastedBlock& block, QWidget& asking) {
 
 std::optional<QString> pastedIntoField(const QString& text, QWidget& asking) {
     PastedBlock block(text.toStdString());
-    const bool single = block.refusal().empty() && !block.hasHeadings() &&
-                        block.rows().size() == 1 && block.columns() == 1;
-    if (!single)
+    if (!block.isSingleNumber())
         return text;
     if (!settleCommas(block, asking))
         return std::nullopt;

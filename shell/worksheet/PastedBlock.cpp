@@ -172,11 +172,13 @@ void PastedBlock::enter(Program& program, MSFlexGrid& grid) const {
     }
 }
 
+bool PastedBlock::isSingleNumber() const {
+    return refusal_.empty() && !headings_ && rows_.size() == 1 && columns_ == 1;
+}
+
 std::string numberAsPasted(std::string_view text) {
     const PastedBlock block(text);
-    const bool isNumber = block.refusal().empty() && block.rows().size() == 1 &&
-                          block.columns() == 1 && !block.hasHeadings();
-    return isNumber ? block.rows().front().front() : std::string(text);
+    return block.isSingleNumber() ? block.rows().front().front() : std::string(text);
 }
 
 } // namespace caudalera

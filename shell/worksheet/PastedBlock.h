@@ -29,6 +29,8 @@ public:
     const std::vector<std::vector<std::string>>& rows() const { return rows_; }
     std::size_t columns() const { return columns_; }
     bool hasHeadings() const { return headings_; }
+    /// Whether all of it is one number, as a field takes it.
+    bool isSingleNumber() const;
     /// The first cell of a block that has commas and nothing that tells decimals from thousands; it
     /// is read with decimal commas until `read` says otherwise.
     const std::optional<Example>& undecided() const { return example_; }
