@@ -32,7 +32,7 @@ void FitWorksheet::reporteDelAjuste(ReportWriter& reporte) const {
     constexpr long guionesAjuste = 130;
     constexpr long guionesMensaje = 55;
     std::string encabezado = "        m  \t        X  \t           P(X)        ";
-    for (const auto titulo : textos_.titulosReporte)
+    for (const auto titulo : textos_.columnas.titulosReporte)
         encabezado.append(titulo).append("   ");
     reporte.abrirTabla("Cálculos del ajuste Smirnov Kolmogorov:", {encabezado}, guionesAjuste);
     for (long fila = 1; fila <= program().variables.contadorLineas; ++fila) {

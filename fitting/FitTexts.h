@@ -5,6 +5,18 @@
 
 namespace caudalera {
 
+/// Headers of columns 3 and 4 of `grddis`, and the last three titles of the report's table.
+struct FitColumns {
+    std::array<std::string_view, 2> encabezados;
+    std::array<std::string_view, 3> titulosReporte;
+};
+
+/// Of the distributions with a reduced variate Z, and of those with one called Y.
+inline constexpr FitColumns columnasZ{{"F(Z) Ordinario", "F(Z) Mom Lineal"},
+                                      {"F(Z) Ordinario ", "F(Z) Mom Lineal ", "Delta "}};
+inline constexpr FitColumns columnasY{{"G(Y) Ordinario", "G(Y) Mom Lineal"},
+                                      {"G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "}};
+
 /// The texts and masks in which the windows of the distributions differ, and whether a window has
 /// linear moments.
 struct FitTexts {
@@ -17,9 +29,7 @@ struct FitTexts {
     std::string_view tituloParametros;
     long guionesParametros = 55;
 
-    /// Headers of columns 3 and 4 of `grddis`, and the last three titles of the report's table.
-    std::array<std::string_view, 2> encabezados;
-    std::array<std::string_view, 3> titulosReporte;
+    FitColumns columnas;
 
     std::string_view mascaraPeriodo;
     std::string_view mascaraProbabilidad;

@@ -79,8 +79,8 @@ std::vector<const FitWorksheet::Parametro*> FitWorksheet::parametros() const {
 
 void FitWorksheet::reiniciarResultados() {
     grddis.reset(500, 6, 1, 0);
-    grddis.setHeaders({"m", "X", "P(X)", std::string(textos_.encabezados[0]),
-                       std::string(textos_.encabezados[1]), "Delta"});
+    grddis.setHeaders({"m", "X", "P(X)", std::string(textos_.columnas.encabezados[0]),
+                       std::string(textos_.columnas.encabezados[1]), "Delta"});
 }
 
 void FitWorksheet::borrarCampos() {

@@ -10,8 +10,7 @@ const FitTexts& textosGamma2() {
         .marcoParametros = "Parámetros distribución Gamma 2 par:",
         .tituloParametros = "Los 2 parámetros de la distribución Gamma:",
         .guionesParametros = 65,
-        .encabezados = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
-        .titulosReporte = {"G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "},
+        .columnas = columnasY,
         .mascaraPeriodo = "###0.0",
         .mascaraProbabilidad = "###.#0",
     };

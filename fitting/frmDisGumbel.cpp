@@ -10,8 +10,7 @@ const FitTexts& textosGumbel() {
         .marcoParametros = "Parámetros distribución Gumbel:",
         .tituloParametros = "Parámetros de la distribución Gumbel:",
         .guionesParametros = 55,
-        .encabezados = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
-        .titulosReporte = {"G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "},
+        .columnas = columnasY,
         .mascaraPeriodo = "###0.0",
         .mascaraProbabilidad = "###.#0",
     };

@@ -10,8 +10,7 @@ const FitTexts& textosLogGumbel() {
         .marcoParametros = "Parámetros distribución logGumbel:",
         .tituloParametros = "Parámetros de la distribución logGumbel:",
         .guionesParametros = 60,
-        .encabezados = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
-        .titulosReporte = {"G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "},
+        .columnas = columnasY,
         .mascaraPeriodo = "###0.0",
         .mascaraProbabilidad = "###.#0",
     };

@@ -15,8 +15,8 @@ FitTexts textsOf(bool momentosLineales) {
     texts.marcoParametros = "Parámetros de prueba:";
     texts.tituloParametros = "Los parámetros:";
     texts.guionesParametros = 60;
-    texts.encabezados = {"Z", "F(Z)"};
-    texts.titulosReporte = {"           Z  ", "             F(Z)  ", "            Delta "};
+    texts.columnas = {{"Z", "F(Z)"},
+                      {"           Z  ", "             F(Z)  ", "            Delta "}};
     texts.mascaraPeriodo = "###0.0";
     texts.mascaraProbabilidad = "###.0#";
     texts.mascaraTeorico = "#####0.0####";
