@@ -29,4 +29,14 @@ bool isShortcut(const QKeyEvent& event) {
     return ctrl != alt;
 }
 
+bool isUndo(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Undo);
+}
+
+bool isRedo(const QKeyEvent& event) {
+    const auto pressed = event.keyCombination();
+    return pressed == (Qt::CTRL | Qt::Key_Y) || pressed == (Qt::CTRL | Qt::SHIFT | Qt::Key_Z) ||
+           event.matches(QKeySequence::Redo);
+}
+
 } // namespace caudalera

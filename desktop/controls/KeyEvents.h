@@ -14,5 +14,8 @@ bool isEnter(const QKeyEvent& event);
 std::optional<Key::Kind> commandKey(const QKeyEvent& event);
 /// A letter with Ctrl or Alt is a shortcut, not text; with both it is AltGr.
 bool isShortcut(const QKeyEvent& event);
+/// Ctrl+Z; Ctrl+Y or Ctrl+Shift+Z, on every system.
+bool isUndo(const QKeyEvent& event);
+bool isRedo(const QKeyEvent& event);
 
 } // namespace caudalera

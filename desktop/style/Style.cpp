@@ -40,6 +40,9 @@ QColor coverGround() {
 QColor calmField() {
     return {0xEE, 0xF3, 0xF5};
 }
+QColor editedCell() {
+    return {0xFF, 0xF3, 0xCF};
+}
 QColor selection() {
     return {0xCF, 0xE3, 0xEA};
 }

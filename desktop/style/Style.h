@@ -22,6 +22,8 @@ QColor paleAccent();
 QColor coverGround();
 /// Ground of fields that hold results.
 QColor calmField();
+/// Ground of a cell while it is being edited.
+QColor editedCell();
 /// Ground of selected cells.
 QColor selection();
 /// Rules and grid lines.

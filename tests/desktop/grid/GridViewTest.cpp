@@ -1,5 +1,6 @@
 #include "desktop/grid/GridView.h"
 #include "desktop/grid/GridEditor.h"
+#include "desktop/style/Style.h"
 #include "tests/desktop/DesktopFixture.h"
 
 #include <QClipboard>
@@ -108,6 +109,39 @@ private slots:
         desktop_->press(Qt::Key_Home);
         desktop_->press(Qt::Key_Delete);
         QCOMPARE(editor().text(), QStringLiteral(".0"));
+    }
+
+    void anOpenCellWearsADressOfItsOwnWhereverTheKeyboardIs() {
+        desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
+        desktop_->clickCell(2, 1);
+        QVERIFY(!isDressed(2, 1));
+        desktop_->type("5000");
+        QVERIFY(isDressed(2, 1));
+        // The calculation reads the cells, which have not got it.
+        desktop_->clickButton("bCalcular");
+        QVERIFY(QApplication::focusWidget() != &editor());
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|2.0|4.0"));
+        QVERIFY(isDressed(2, 1));
+        // The keyboard back at the grid, it has.
+        desktop_->gridView().setFocus(Qt::TabFocusReason);
+        QCOMPARE(desktop_->row(2), QStringLiteral(" 2|5000|4.0"));
+        QVERIFY(!isDressed(2, 1));
+    }
+
+    void undoingInTheBoxStaysInIt() {
+        desktop_->typeValues({"1", "2"});
+        desktop_->clickCell(1, 1);
+        desktop_->type("15");
+        desktop_->press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(editor().text(), QStringLiteral("1"));
+        desktop_->press(Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(editor().text(), QStringLiteral("15"));
+        desktop_->press(Qt::Key_Z, Qt::ControlModifier);
+        desktop_->press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(QString::fromStdString(desktop_->control<TextBox>("txtt").text()),
+                 QStringLiteral("15"));
+        QVERIFY(editor().isVisible());
+        QCOMPARE(desktop_->row(1), QStringLiteral(" 1|1.0|2.0"));
     }
 
     void backspaceOnTheGridOpensTheBox() {
@@ -253,6 +287,27 @@ private:
     QRect cellRect(long row, long col) {
         return desktop_->gridView().visualRect(
             desktop_->gridView().model()->index(static_cast<int>(row) - 1, static_cast<int>(col)));
+    }
+    static bool isBluish(const QColor& color) { return color.blue() > color.red() + 30; }
+    /// Whether a cell shows the ground, the frame and the pencil of one that is being edited.
+    bool isDressed(long row, long col) {
+        const QImage image = desktop_->gridView().viewport()->grab(cellRect(row, col)).toImage();
+        const int right = image.width() - 1;
+        const int bottom = image.height() - 1;
+        bool frame = true;
+        for (const int line : {0, 1}) {
+            for (const QPoint& at : {QPoint(line, bottom / 2), QPoint(right - line, bottom / 2),
+                                     QPoint(right / 2, line), QPoint(right / 2, bottom - line)})
+                frame = frame && image.pixelColor(at) == style::accent();
+        }
+        const bool ground = image.pixelColor(right - 3, bottom - 3) == style::editedCell() &&
+                            image.pixelColor(right - 3, 3) == style::editedCell();
+        int pencil = 0;
+        for (int x = 2; x < image.height(); ++x) {
+            for (int y = 2; y < bottom - 1; ++y)
+                pencil += isBluish(image.pixelColor(x, y)) ? 1 : 0;
+        }
+        return frame && ground && pencil > 10;
     }
     /// Rows of data without typing them, the append row behind.
     void fill(long rows) {
