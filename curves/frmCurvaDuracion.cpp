@@ -134,6 +134,10 @@ void frmCurvaDuracion::graficar() {
         serie.y.push_back(y.value());
     }
     grafico.series.push_back(std::move(serie));
+    grafico.xTitle = grddis.TextMatrix(0, probabilidad) + " (" + txtxp.unit()->caption + ")";
+    grafico.yTitle = OptAdimensional.checked()
+                         ? grddis.TextMatrix(0, adimensional)
+                         : grddis.TextMatrix(0, considerado) + " (" + txtxq.unit()->caption + ")";
     dibujar(Graph1, std::move(grafico));
 }
 

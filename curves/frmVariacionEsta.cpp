@@ -134,11 +134,15 @@ void frmVariacionEsta::graficar() {
     for (long mes = 0; mes < numMeses; ++mes)
         grafico.x->push_back(static_cast<double>(mes));
     for (std::size_t i = 0; i < numCurvas; ++i) {
-        Graph::Series serie{probabilidades[i].leyenda, {}};
+        Graph::Series serie{probabilidades[i].leyenda,
+                            {},
+                            std::string("Probabilidad de ocurrencia del ") +
+                                probabilidades[i].leyenda};
         for (const Real valor : curvas[i])
             serie.y.push_back(valor.value());
         grafico.series.push_back(std::move(serie));
     }
+    grafico.yTitle = grdt.TextMatrix(0, 1);
     dibujar(Graph1, std::move(grafico));
 }
 

@@ -83,6 +83,7 @@ void MonthlyWorksheet::graficar() {
     for (long mes = 0; mes < meses; ++mes)
         grafico.x->push_back(static_cast<double>(mes));
     grafico.series = curvas();
+    grafico.yTitle = tituloCurvas();
     dibujar(Graph1, std::move(grafico));
 }
 

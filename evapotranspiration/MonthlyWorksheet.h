@@ -60,6 +60,8 @@ protected:
     virtual void calcularAnno() = 0;
     /// What the chart shows.
     virtual std::vector<Graph::Series> curvas() const = 0;
+    /// What its curves measure, with the unit.
+    virtual std::string tituloCurvas() const = 0;
     static Graph::Series curva(std::string leyenda, std::span<const float> valores);
 
     void calcular() override;

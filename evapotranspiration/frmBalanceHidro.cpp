@@ -105,11 +105,17 @@ void frmBalanceHidro::escribirResultados() {
     }
 }
 
+std::string frmBalanceHidro::tituloCurvas() const {
+    return "ETo, P (mm)";
+}
+
 std::vector<Graph::Series> frmBalanceHidro::curvas() const {
-    Graph::Series precipitacion{"P", {}};
+    Graph::Series evapotranspiracion = curva("ETo", anno.ETr.primeros(meses));
+    evapotranspiracion.meaning = "Evapotranspiración potencial";
+    Graph::Series precipitacion{"P", {}, "Precipitación"};
     for (const Real valor : P.primeros(meses))
         precipitacion.y.push_back(valor.value());
-    return {curva("ETo", anno.ETr.primeros(meses)), std::move(precipitacion)};
+    return {std::move(evapotranspiracion), std::move(precipitacion)};
 }
 
 void frmBalanceHidro::escribirReporte(ReportWriter& reporte) {

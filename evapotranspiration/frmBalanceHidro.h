@@ -18,6 +18,7 @@ protected:
     void calcularAnno() override;
     void trasFaltarMeses() override { setFocus(grdt); }
     std::vector<Graph::Series> curvas() const override;
+    std::string tituloCurvas() const override;
     void reiniciarResultados() override;
     void borrarResultados() override;
     void escribirReporte(ReportWriter& reporte) override;

@@ -248,6 +248,10 @@ void frmBlaneyCriddle::escribirResultados() {
     }
 }
 
+std::string frmBlaneyCriddle::tituloCurvas() const {
+    return grddis.TextMatrix(0, 4) + " (mm)";
+}
+
 std::vector<Graph::Series> frmBlaneyCriddle::curvas() const {
     return {curva({}, ETr.primeros(meses))};
 }

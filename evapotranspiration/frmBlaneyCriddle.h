@@ -44,6 +44,7 @@ public:
 protected:
     void calcularAnno() override;
     std::vector<Graph::Series> curvas() const override;
+    std::string tituloCurvas() const override;
     void limpiar() override;
     void reiniciarResultados() override;
     void escribirReporte(ReportWriter& reporte) override;

@@ -63,6 +63,10 @@ void frmThornthwaite::escribirResultados() {
     }
 }
 
+std::string frmThornthwaite::tituloCurvas() const {
+    return grddis.TextMatrix(0, 6) + " (mm)";
+}
+
 std::vector<Graph::Series> frmThornthwaite::curvas() const {
     return {curva({}, anno.ETrDiaria.primeros(meses))};
 }

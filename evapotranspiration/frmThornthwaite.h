@@ -15,6 +15,7 @@ public:
 protected:
     void calcularAnno() override;
     std::vector<Graph::Series> curvas() const override;
+    std::string tituloCurvas() const override;
     void reiniciarResultados() override;
     void escribirReporte(ReportWriter& reporte) override;
 

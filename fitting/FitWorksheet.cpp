@@ -247,11 +247,13 @@ void FitWorksheet::graficar() {
         grafico.x->push_back(serieOrdenada[m].value());
     for (const Curva& curva : curvas) {
         (*curva.serie)[0] = 0;
-        Graph::Series series{std::string(curva.leyenda), {}};
+        Graph::Series series{std::string(curva.leyenda), {}, std::string(curva.significado)};
         for (long m = 0; m <= conteoDatos; ++m)
             series.y.push_back((*curva.serie)[m].value());
         grafico.series.push_back(std::move(series));
     }
+    grafico.xTitle = grddis.TextMatrix(0, 1);
+    grafico.yTitle = grddis.TextMatrix(0, 2);
     dibujar(Graph1, std::move(grafico));
 }
 

@@ -71,10 +71,11 @@ protected:
         std::string_view linea;
     };
 
-    /// A curve of the chart and its legend.
+    /// A curve of the chart, its legend and what that stands for.
     struct Curva {
         Serie* serie;
         std::string_view leyenda;
+        std::string_view significado;
     };
 
     // What a window sets when it is built.
@@ -82,7 +83,10 @@ protected:
     std::vector<Parametro> lineales;
     /// What columns 3 and 4 of `grddis` show.
     std::array<const Serie*, 2> columnasDeAjuste{&acumOrdinaria, &acumLineal};
-    std::vector<Curva> curvas{{&probEmpirica, "Exp"}, {&acumOrdinaria, "Ord"}, {&acumLineal, "ML"}};
+    std::vector<Curva> curvas{
+        {&probEmpirica, "Exp", "Probabilidad experimental de los datos"},
+        {&acumOrdinaria, "Ord", "Probabilidad teórica con parámetros ordinarios"},
+        {&acumLineal, "ML", "Probabilidad teórica con momentos lineales"}};
     /// Sets the layout and the commands, with the parameter fields as they stand in their frame.
     void disponer(Layout camposDeParametros);
 

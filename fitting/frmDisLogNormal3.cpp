@@ -30,7 +30,8 @@ frmDisLogNormal3::frmDisLogNormal3(Program& program)
                   {&conOrdinarios.escala, &txtux, "Parámetro de escala (µy)= "},
                   {&conOrdinarios.forma, &txtSX, "Parámetro de forma (Sy)= "}};
     columnasDeAjuste = {&reducidaOrdinaria, &acumOrdinaria};
-    curvas = {{&probEmpirica, "Exp"}, {&acumOrdinaria, "Teo"}};
+    curvas.pop_back();
+    curvas[1].leyenda = "Teo";
     disponer(layout::fields({txtxo, txtux, txtSX}));
 }
 

@@ -186,6 +186,8 @@ void frmAforoCorren::graficar() {
         grafico.x->push_back(perfilX[i].value());
         grafico.series.front().y.push_back(perfilY[i].value());
     }
+    grafico.xTitle = "L acumulada (m)";
+    grafico.yTitle = grdt.TextMatrix(0, 2);
     dibujar(Graph1, std::move(grafico));
 }
 

@@ -115,8 +115,10 @@ void PolynomialRegressionWorksheet::graficar() {
     Chart grafico;
     grafico.style = 1;
     grafico.x = primerosValores(potencias_[0], numPares_);
-    grafico.series = {{"Dat", primerosValores(Y_, numPares_)},
-                      {"Teo", primerosValores(Yc_, numPares_)}};
+    grafico.series = {{"Dat", primerosValores(Y_, numPares_), "Datos"},
+                      {"Teo", primerosValores(Yc_, numPares_), "Valores teóricos de la ecuación"}};
+    grafico.xTitle = grdt.TextMatrix(0, 1);
+    grafico.yTitle = grdt.TextMatrix(0, 2);
     dibujar(Graph1, std::move(grafico));
 }
 

@@ -58,6 +58,8 @@ void SimpleRegressionWorksheet::graficar() {
         grafico.x->push_back(X[i].value());
         grafico.series.front().y.push_back(Y[i].value());
     }
+    grafico.xTitle = grdt.TextMatrix(0, 1);
+    grafico.yTitle = grdt.TextMatrix(0, 2);
     dibujar(Graph1, std::move(grafico));
 }
 

@@ -15,11 +15,28 @@ long longest(const std::vector<Graph::Series>& series) {
     return static_cast<long>(count);
 }
 
+std::string titleOf(const std::vector<Label*>& labels, const std::string& drawn) {
+    std::string title;
+    for (const Label* label : labels) {
+        if (label->visible)
+            title += (title.empty() ? "" : " ") + label->caption;
+    }
+    return title.empty() ? drawn : title;
+}
+
 } // namespace
 
 Graph::Graph(Window& window, std::string name)
     : Control(window, std::move(name), ControlKind::chart) {
     visible = false;
+}
+
+std::string Graph::xTitle() const {
+    return titleOf(xLabels, xTitle_);
+}
+
+std::string Graph::yTitle() const {
+    return titleOf(yLabels, yTitle_);
 }
 
 void Graph::setKind(Kind kind, int style) {
@@ -33,10 +50,16 @@ void Graph::setSize(long points, long series) {
     x_.reset();
 }
 
-void Graph::setLegend(std::size_t series, std::string legend) {
+void Graph::setLegend(std::size_t series, std::string legend, std::string meaning) {
     if (series >= series_.size())
         throw RuntimeFailure(Failure::index);
     series_[series].legend = std::move(legend);
+    series_[series].meaning = std::move(meaning);
+}
+
+void Graph::setTitles(std::string x, std::string y) {
+    xTitle_ = std::move(x);
+    yTitle_ = std::move(y);
 }
 
 void Graph::setX(std::vector<double> positions) {
@@ -61,6 +84,7 @@ void Graph::clear() {
     points_ = 0;
     series_.clear();
     x_.reset();
+    setTitles({}, {});
     visible = false;
     ++revision_;
 }
@@ -73,8 +97,9 @@ void dibujar(Graph& graph, Chart chart) {
     graph.setAutoAdvance(chart.autoAdvance);
     graph.setSize(chart.points.value_or(longest(chart.series)),
                   static_cast<long>(chart.series.size()));
+    graph.setTitles(std::move(chart.xTitle), std::move(chart.yTitle));
     for (std::size_t i = 0; i < chart.series.size(); ++i)
-        graph.setLegend(i, std::move(chart.series[i].legend));
+        graph.setLegend(i, std::move(chart.series[i].legend), std::move(chart.series[i].meaning));
     if (chart.x)
         graph.setX(*std::move(chart.x));
     for (std::size_t i = 0; i < chart.series.size(); ++i)

@@ -18,6 +18,8 @@ public:
     struct Series {
         std::string legend;
         std::vector<double> y;
+        /// What the legend's abbreviation stands for.
+        std::string meaning{};
     };
 
     Graph(Window& window, std::string name);
@@ -39,6 +41,9 @@ public:
     /// of an axis are joined by a blank.
     std::vector<Label*> xLabels;
     std::vector<Label*> yLabels;
+    /// What an axis measures: its caption, or what the drawing says where it has none.
+    std::string xTitle() const;
+    std::string yTitle() const;
 
     void setKind(Kind kind, int style);
     void setBackgroundColor(int index) { background_ = index; }
@@ -46,13 +51,14 @@ public:
     void setAutoAdvance(bool on) { autoAdvance_ = on; }
     /// Also discards the values and legends of an earlier drawing.
     void setSize(long points, long series);
-    void setLegend(std::size_t series, std::string legend);
+    void setLegend(std::size_t series, std::string legend, std::string meaning = {});
+    void setTitles(std::string x, std::string y);
     /// The positions of the first points; failure 9 past the declared ones.
     void setX(std::vector<double> positions);
     /// The values of the first points; failure 9 past the declared ones.
     void setY(std::size_t series, std::vector<double> values);
     void draw();
-    /// Background index 7, no border, no series, not visible.
+    /// Background index 7, no border, no series, no titles, not visible.
     void clear();
 
 private:
@@ -64,6 +70,8 @@ private:
     long points_ = 0;
     std::vector<Series> series_;
     std::optional<std::vector<double>> x_;
+    std::string xTitle_;
+    std::string yTitle_;
     std::uint64_t revision_ = 0;
 };
 
@@ -77,11 +85,14 @@ struct Chart {
     /// None: the points stand at 1, 2, 3 and so on.
     std::optional<std::vector<double>> x;
     std::vector<Graph::Series> series;
+    /// Titles of the axes, as the window calls the quantities, where no label stands along them.
+    std::string xTitle;
+    std::string yTitle;
 };
 
 /// Takes a chart through the operations of a drawing in their order: kind and style, background,
-/// border, visible, auto-advance, size, legends, X positions, Y values, draw. What an earlier
-/// drawing showed is gone. Failure 9 for more values than declared points.
+/// border, visible, auto-advance, size, titles, legends, X positions, Y values, draw. What an
+/// earlier drawing showed is gone. Failure 9 for more values than declared points.
 void dibujar(Graph& graph, Chart chart);
 
 } // namespace caudalera

@@ -84,6 +84,30 @@ TEST_F(GraphTest, ClearingErasesAndHides) {
     EXPECT_TRUE(graph().visible);
 }
 
+TEST_F(GraphTest, TitlesAreThoseOfTheLabelsOrElseOfTheDrawing) {
+    Label function(graph().window(), "lblFuncion", "fx");
+    Label share(graph().window(), "lblPorcentaje", "(%)");
+    Chart titled = chart();
+    titled.xTitle = "X";
+    titled.yTitle = "Y";
+    titled.series[0].meaning = "Observado";
+    dibujar(graph(), titled);
+    EXPECT_EQ(graph().xTitle(), "X");
+    EXPECT_EQ(graph().yTitle(), "Y");
+    EXPECT_EQ(graph().series()[0].meaning, "Observado");
+    EXPECT_EQ(graph().series()[1].meaning, "");
+    graph().yLabels = {&function, &share};
+    EXPECT_EQ(graph().yTitle(), "fx (%)");
+    function.visible = false;
+    EXPECT_EQ(graph().yTitle(), "(%)");
+    share.visible = false;
+    EXPECT_EQ(graph().yTitle(), "Y");
+    graph().clear();
+    EXPECT_EQ(graph().xTitle(), "");
+    EXPECT_EQ(graph().yTitle(), "");
+    graph().yLabels.clear();
+}
+
 TEST_F(GraphTest, AnAreaChartIsAKindOfItsOwn) {
     Chart area = chart();
     area.kind = Graph::Kind::area;
