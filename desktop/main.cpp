@@ -2,12 +2,11 @@
 #include "desktop/Views.h"
 #include "desktop/session/Application.h"
 #include "desktop/style/Style.h"
+#include "desktop/words/Words.h"
 #include "shell/files/FileSizeSignal.h"
 
 #include <QElapsedTimer>
-#include <QLibraryInfo>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdio>
 
 int main(int argc, char** argv) {
@@ -22,11 +21,7 @@ int main(int argc, char** argv) {
     // The model says when the program ends, not the number of windows.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    // The toolkit's own words, in file dialogs and context menus.
-    QTranslator translator;
-    if (translator.load(QStringLiteral("qtbase_es"),
-                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&translator);
+    caudalera::words::install(application);
     caudalera::style::apply(application);
 
     caudalera::Session session(caudalera::ventanas(), caudalera::makeView);

@@ -4,6 +4,7 @@
 #include "desktop/chart/ChartTicker.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/style/Style.h"
+#include "desktop/words/FileKinds.h"
 #include "shell/window/Program.h"
 
 #include <QClipboard>
@@ -347,7 +348,9 @@ bool ChartView::saveImage(const QString& path) const {
 }
 
 void ChartView::askAndSave() {
+    words::FileKinds kinds;
     QFileDialog dialog(this, tr("Guardar imagen"));
+    dialog.setIconProvider(&kinds);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(
         {tr("Imagen PNG (*.png)"), tr("Documento PDF (*.pdf)"), tr("Dibujo SVG (*.svg)")});

@@ -3,6 +3,7 @@
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/session/Session.h"
+#include "desktop/words/FileKinds.h"
 #include "shell/numbers/RuntimeFailure.h"
 #include "shell/report/frmDocumento.h"
 
@@ -124,7 +125,9 @@ void DesktopPlatform::showMessage(const Message& message) {
 
 std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dialog) {
     session_.sync();
+    words::FileKinds kinds;
     QFileDialog box(parentForDialogs(), toQString(dialog.title));
+    box.setIconProvider(&kinds);
     box.setAcceptMode(dialog.kind == FileDialog::Kind::open ? QFileDialog::AcceptOpen
                                                             : QFileDialog::AcceptSave);
     // Any name may be given: one that cannot be loaded is the command's affair.

@@ -2,6 +2,7 @@
 
 #include "desktop/grid/GridView.h"
 #include "desktop/style/Style.h"
+#include "desktop/words/Words.h"
 
 #include <QAbstractButton>
 #include <QPushButton>
@@ -22,6 +23,7 @@ QString described(const DesktopFixture::Box& box) {
 DesktopFixture::DesktopFixture(const std::vector<WindowEntry>& windows)
     : session(windows, makeView) {
     style::apply(*qApp);
+    words::install(*qApp);
     QApplication::setQuitOnLastWindowClosed(false);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
     QObject::connect(&watchdog_, &QTimer::timeout, &watchdog_, [this] { watch(); });

@@ -7,12 +7,12 @@
 #include "desktop/Views.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Style.h"
+#include "desktop/words/Words.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -26,7 +26,6 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
-#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -191,9 +190,7 @@ int main(int argc, char** argv) {
     // The journey leaves no trace in the user's own settings.
     const QTemporaryDir store;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, store.path());
-    QTranslator translator;
-    if (translator.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&translator);
+    caudalera::words::install(application);
     QApplication::setQuitOnLastWindowClosed(false);
     caudalera::style::apply(application);
 
