@@ -3,6 +3,7 @@
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/session/Session.h"
+#include "desktop/style/Title.h"
 #include "desktop/words/FileKinds.h"
 #include "shell/numbers/RuntimeFailure.h"
 #include "shell/report/frmDocumento.h"
@@ -115,6 +116,7 @@ void DesktopPlatform::showBox(const QString& text, const QString& title, Icon ic
         box.setIcon(QMessageBox::Critical);
     }
     box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+    style::makeRoomForTitle(box);
     box.exec();
 }
 

@@ -1,3 +1,4 @@
+#include "desktop/style/Title.h"
 #include "tests/desktop/DesktopFixture.h"
 
 #include <QClipboard>
@@ -174,6 +175,22 @@ private slots:
         const QRegularExpression picture(
             QStringLiteral("/Width %1\\s+/Height %2").arg(size.width()).arg(size.height()));
         QVERIFY(picture.match(QString::fromLatin1(file.readAll())).hasMatch());
+    }
+
+    void aBoxIsWideEnoughForItsTitle() {
+        const QString title = QStringLiteral("Error al leer los datos de la serie histórica");
+        int width = 0;
+        const auto shown = [&](const QString& text) {
+            desktop_->expectBox({text, title, QMessageBox::Critical},
+                                [&] { width = QApplication::activeModalWidget()->width(); });
+            platform().showMessage({text.toStdString(), title.toStdString(), Icon::error});
+            return width;
+        };
+        // The bar's font is at least as wide as the text's, and a button stands beside the title.
+        const QFontMetrics metrics(QApplication::font());
+        QVERIFY(shown("No") > metrics.horizontalAdvance(title) + 8 * metrics.height());
+        QVERIFY(width >= style::titleWidth(title));
+        QVERIFY(style::titleWidth(title) > style::titleWidth("Error"));
     }
 
     void anOpenMenuIsNoDialogsParent() {
