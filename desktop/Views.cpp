@@ -1,11 +1,13 @@
 #include "desktop/Views.h"
 
 #include "desktop/report/ReportWindow.h"
+#include "desktop/windows/AboutView.h"
 #include "desktop/windows/CalculatorView.h"
 #include "desktop/windows/MainWindow.h"
 #include "desktop/windows/WindowView.h"
 #include "shell/main/frmCalculadora.h"
 #include "shell/main/frmCaudalera.h"
+#include "shell/main/frmacerc.h"
 #include "shell/report/frmPadre.h"
 
 namespace caudalera {
@@ -17,6 +19,8 @@ View* makeView(Session& session, Window& window) {
         return new MainWindow(session, *principal);
     if (auto* calculadora = dynamic_cast<frmCalculadora*>(&window))
         return new CalculatorView(session, *calculadora);
+    if (auto* acerca = dynamic_cast<frmacerc*>(&window))
+        return new AboutView(session, *acerca);
     return new WindowView(session, window);
 }
 
