@@ -35,5 +35,7 @@ int main(int argc, char** argv) {
                          static_cast<long long>(sinceStart.elapsed()));
         });
     }
+    // A print server may take its time, which the first window does not wait for.
+    QTimer::singleShot(300, &session, [&session] { session.printers().watch(); });
     return QApplication::exec();
 }

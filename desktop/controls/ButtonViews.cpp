@@ -48,6 +48,11 @@ void CommandButton::sync() {
         setText(caption);
 }
 
+QString CommandButton::missing() const {
+    // It goes by this name in every window.
+    return button_.name() == "bImprimir" ? session_.printers().standardMissing() : QString();
+}
+
 void CommandButton::showIcon(bool hover) {
     if (drawing_.isNull())
         return;
@@ -74,6 +79,15 @@ void CommandButton::keyPressEvent(QKeyEvent* event) {
     }
     if (!event->isAutoRepeat())
         session_.act([this] { session_.program().key(button_, {Key::Kind::enter}); });
+}
+
+bool ButtonView::enabled() const {
+    return ControlView::enabled() && button_.missing().isEmpty();
+}
+
+QString ButtonView::toolTip() const {
+    const QString missing = button_.missing();
+    return missing.isEmpty() ? ControlView::toolTip() : missing;
 }
 
 void ButtonView::sync() {

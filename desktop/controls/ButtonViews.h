@@ -15,6 +15,8 @@ public:
     CommandButton(Session& session, Button& button, QWidget* parent);
 
     void sync();
+    /// Why the command is out of reach here, for want of a printer; empty if it is not.
+    QString missing() const;
 
 protected:
     void enterEvent(QEnterEvent* event) override;
@@ -39,6 +41,10 @@ public:
 
     QWidget* focusTarget() const override { return &button_; }
     void sync() override;
+
+protected:
+    bool enabled() const override;
+    QString toolTip() const override;
 
 private:
     CommandButton& button_;

@@ -7,10 +7,9 @@ namespace caudalera {
 void ControlView::sync() {
     if (widget_.isHidden() == control_.visible)
         widget_.setVisible(control_.visible);
-    if (widget_.isEnabledTo(widget_.parentWidget()) != control_.enabled)
-        widget_.setEnabled(control_.enabled);
-    const QString tip = toQString(control_.toolTip);
-    if (widget_.toolTip() != tip)
+    if (widget_.isEnabledTo(widget_.parentWidget()) != enabled())
+        widget_.setEnabled(enabled());
+    if (const QString tip = toolTip(); widget_.toolTip() != tip)
         widget_.setToolTip(tip);
 }
 

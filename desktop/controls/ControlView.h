@@ -25,6 +25,11 @@ public:
     /// Brings the widget in line with the control: here what all controls have.
     virtual void sync();
 
+protected:
+    /// As the control is, unless the desktop has a reason of its own.
+    virtual bool enabled() const { return control_.enabled; }
+    virtual QString toolTip() const { return toQString(control_.toolTip); }
+
 private:
     Control& control_;
     QWidget& widget_;

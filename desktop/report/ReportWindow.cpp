@@ -92,6 +92,7 @@ void ReportWindow::buildMenu() {
 
 QMenu* ReportWindow::menuOf(const MenuEntry& title) {
     auto* menu = new QMenu(toQString(title.caption), this);
+    menu->setToolTipsVisible(true);
     for (MenuEntry* entry : title.entries) {
         if (!entry) {
             menu->addSeparator();
@@ -159,7 +160,11 @@ void ReportWindow::sync() {
     for (const auto& [entry, action] : actions_) {
         if (action->text() != toQString(entry->caption))
             action->setText(toQString(entry->caption));
-        const bool enabled = entry->enabled && (padre_.active() || !needsDocument(*entry));
+        const bool prints = entry == &padre_.mnuFilePrint;
+        const QString missing = prints ? session_.printers().anyMissing() : QString();
+        action->setToolTip(missing);
+        const bool enabled =
+            entry->enabled && missing.isEmpty() && (padre_.active() || !needsDocument(*entry));
         if (action->isEnabled() != enabled)
             action->setEnabled(enabled);
     }

@@ -44,6 +44,7 @@ void share(QWidget& widget, std::shared_ptr<const void> shown) {
 Session::Session(const std::vector<WindowEntry>& windows, ViewFactory makeView)
     : platform_(*this), program_(platform_, windows), makeView_(std::move(makeView)) {
     qApp->installEventFilter(this);
+    connect(&printers_, &Printers::changed, this, [this] { act([] {}); });
 }
 
 Session::~Session() {

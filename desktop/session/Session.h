@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/session/DesktopPlatform.h"
+#include "desktop/session/Printers.h"
 #include "shell/window/Program.h"
 
 #include <QObject>
@@ -47,6 +48,7 @@ public:
 
     Program& program() { return program_; }
     DesktopPlatform& platform() { return platform_; }
+    Printers& printers() { return printers_; }
     /// Shows the main window.
     void start();
 
@@ -95,6 +97,7 @@ private:
     friend class DesktopPlatform;
 
     DesktopPlatform platform_;
+    Printers printers_;
     Program program_;
     ViewFactory makeView_;
     std::vector<Opened> views_;
