@@ -31,6 +31,7 @@ frmAforoCorren::frmAforoCorren(Program& program)
     : Worksheet(program, "frmAforoCorren", "Aforo con correntómetro o molinete", "Tramo",
                 layoutTramos()) {
     columnas = {&L, &h, &v};
+    registrarCamposDeSerie({&txtho, &txtvo});
     registrarResultados({&txtQ, &txtV});
     registrarEntradas({&txtNR, &txtTiempo, &txtA, &txtB});
     optNo.preset(true);

@@ -31,6 +31,7 @@ AnnualPeaksWindow::AnnualPeaksWindow(Program& program, std::string name, std::st
     : Worksheet(program, std::move(name), std::move(text), "N°", layoutCaudalesQ()),
       textos_(std::move(textos)) {
     columnas = {&Q_};
+    registrarCamposDeSerie({&txtanno});
     lblResultados.heading = true;
     grddis.columnWidths = {1700, 1300, 1300, 1250, 1250, 1300, 1300, 2400, 1300};
     grddis.columnAlignments.assign(textos_.encabezados.size(), MSFlexGrid::ColumnAlignment::center);

@@ -61,6 +61,7 @@ protected:
     std::string etiquetaFila(long fila) const override;
     std::vector<Real> ultimoRegistro() const override;
     void recibirUltimoRegistro(std::span<const float> registro) override;
+    void trasRestablecer() override { tomarAnno(); }
     void escribirReporte(ReportWriter& reporte) override;
 
 private:

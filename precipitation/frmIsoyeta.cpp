@@ -23,6 +23,7 @@ frmIsoyeta::frmIsoyeta(Program& program)
                       .reporteResultado = "Resultado del método de isoyetas:"}) {
     using namespace caudalera::layout;
     columnas = {&isoyeta_, &area_};
+    registrarCamposDeSerie({&txtUltimaIsoyeta});
     encadenar({&txtUltimaIsoyeta, &bCalcular});
     disponer(
         column({control(ingreso.lblIngreso), control(lblIsoyetaInicial), control(grdt).stretched(),

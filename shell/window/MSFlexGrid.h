@@ -9,6 +9,8 @@
 
 namespace caudalera {
 
+class GridHistory;
+
 /// A table of text cells with fixed rows and columns and a current cell. An index outside it is
 /// failure 9, more rows than a 16-bit count holds failure 6.
 class MSFlexGrid : public Control {
@@ -35,6 +37,9 @@ public:
     void setTextMatrix(long row, long col, std::string text);
     /// Empties the cells of the rows from `first` to the last one.
     void clearRowsFrom(long first);
+    /// Puts rows in place of `count` others; gives back the cells that stood there. Both are told
+    /// without the fixed columns, whose texts are then to be written anew. No event runs.
+    std::vector<std::string> replaceRows(long first, long count, std::vector<std::string> cells);
 
     long Row() const { return row_; }
     long Col() const { return col_; }
@@ -43,6 +48,8 @@ public:
     void setCol(long col) { moveTo(row_, col); }
     /// Makes a cell the current one as a click does: the change event runs in any case.
     void selectCell(long row, long col);
+    /// Makes a cell the current one and runs no event.
+    void placeCurrent(long row, long col);
     /// Whether it is a cell that can be made current.
     bool canSelect(long row, long col) const;
 
@@ -68,6 +75,8 @@ public:
     TextBox* editor = nullptr;
     /// The menu that a right click opens, its entries below it.
     MenuEntry* popup = nullptr;
+    /// What takes changes of the cells back; nullptr for a grid that has none.
+    GridHistory* history = nullptr;
     /// Character key other than ENTER (its code), and ENTER, on the grid itself.
     std::function<void(char32_t)> onKeyPress;
     std::function<void()> onEnter;
@@ -76,7 +85,16 @@ public:
     /// Grows whenever a cell or the size changes.
     std::uint64_t revision() const { return revision_; }
 
+    /// Which rows may hold other data since the last call: those from `first` on but for the last
+    /// `rest` ones.
+    struct Touched {
+        long first = 0;
+        long rest = 0;
+    };
+    Touched takeTouched();
+
 private:
+    void touch(long first, long rest);
     std::size_t position(long row, long col) const;
     void moveTo(long row, long col);
 
@@ -91,6 +109,7 @@ private:
     long topRow_ = 0;
     std::vector<std::string> cells_;
     std::uint64_t revision_ = 0;
+    Touched touched_;
 };
 
 } // namespace caudalera

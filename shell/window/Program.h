@@ -46,6 +46,8 @@ public:
     const std::vector<std::shared_ptr<Window>>& windows() const { return windows_; }
     Window* find(std::string_view name) const;
     const std::optional<Ending>& ended() const { return ended_; }
+    /// Whether the handler of an event is under way.
+    bool running() const { return depth_ > 0; }
     /// The window shown last.
     Window* front() const { return front_; }
     /// Whether there is a window of that name to open.

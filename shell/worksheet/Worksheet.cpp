@@ -25,6 +25,8 @@ Worksheet::Worksheet(Program& program, std::string name, std::string text,
     txtt.visible = false;
     grdt.editor = &txtt;
     grdt.popup = &mnuEdicion;
+    grdt.history = &historia_;
+    historia_.onRestored = [this] { trasRestablecer(); };
     grdt.columnWidths.assign(formatoSerie_.fields.size() + 1, 1800);
     grdt.columnWidths.front() = 700;
 

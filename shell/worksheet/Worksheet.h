@@ -2,6 +2,7 @@
 
 #include "shell/numbers/Integer16.h"
 #include "shell/numbers/Serie.h"
+#include "shell/window/GridHistory.h"
 #include "shell/worksheet/CalculationWindow.h"
 #include "shell/worksheet/CommonDialog.h"
 #include "shell/worksheet/SeriesLayout.h"
@@ -66,6 +67,10 @@ protected:
     virtual void borrarResultados();
     /// The data and the results.
     void limpiar() override;
+    /// Fields that come with the rows when a file is loaded and are emptied with them.
+    void registrarCamposDeSerie(const std::vector<TextBox*>& campos) { historia_.fields = campos; }
+    /// Rows and fields of the data stand as they stood before or behind an earlier change.
+    virtual void trasRestablecer() { renumerarFilas(); }
     /// What a load resets before the dialog opens, and what once the file is in the grid.
     virtual void antesDeAccesar() { borrarResultados(); }
     virtual void trasAccesar() {}
@@ -112,6 +117,7 @@ private:
     std::string encabezadoFilas_;
     CommonDialog cdCrear_;
     CommonDialog cdAccesar_;
+    GridHistory historia_{grdt};
 };
 
 } // namespace caudalera

@@ -14,6 +14,7 @@ TestSheet::TestSheet(Program& program, const std::string& name, SeriesLayout fil
       series_(seriesLayout().fields.size(), Serie(capacidad)), etiquetas_(etiquetas) {
     for (Serie& serie : series_)
         columnas.emplace_back(&serie);
+    registrarCamposDeSerie({&txtultimo});
 }
 
 std::string TestSheet::etiquetaFila(long fila) const {
