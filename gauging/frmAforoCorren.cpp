@@ -113,7 +113,7 @@ void frmAforoCorren::leerCuadricula() {
 }
 
 std::vector<Real> frmAforoCorren::ultimoRegistro() const {
-    return {L[n + 1], h[n + 1], v[n + 1]};
+    return {0, Val(txtho.text()), Val(txtvo.text())};
 }
 
 void frmAforoCorren::recibirUltimoRegistro(std::span<const float> registro) {

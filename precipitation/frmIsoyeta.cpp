@@ -53,7 +53,7 @@ Real frmIsoyeta::precipitacionMedia() const {
 }
 
 std::vector<Real> frmIsoyeta::ultimoRegistro() const {
-    return {isoyeta_[n + 1], 0};
+    return {Val(txtUltimaIsoyeta.text()), 0};
 }
 
 void frmIsoyeta::recibirUltimoRegistro(std::span<const float> registro) {

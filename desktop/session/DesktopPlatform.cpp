@@ -2,6 +2,7 @@
 
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
+#include "desktop/session/Copies.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/Title.h"
 #include "desktop/words/FileKinds.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
@@ -24,6 +26,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace caudalera {
@@ -89,7 +92,9 @@ void printImage(QPrinter& printer, const QPixmap& image) {
 }
 
 DesktopPlatform::DesktopPlatform(Session& session)
-    : session_(session), decimalSeparator_(namedOrSystemSeparator()) {}
+    : session_(session), decimalSeparator_(namedOrSystemSeparator()),
+      copiesFolder_(QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                        .filePath(QStringLiteral("Caudalera - copias"))) {}
 
 DesktopPlatform::~DesktopPlatform() = default;
 
@@ -105,11 +110,22 @@ QWidget* DesktopPlatform::parentForDialogs() const {
     return front ? session_.viewOf(*front) : nullptr;
 }
 
-void DesktopPlatform::showBox(const QString& text, const QString& title, Icon icon) const {
+void DesktopPlatform::showBox(const QString& text, const QString& title, Icon icon,
+                              const QString& more) const {
     QMessageBox box(parentForDialogs());
     box.setWindowTitle(title.isEmpty() ? programTitle() : title);
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
+    if (!more.isEmpty()) {
+        box.setInformativeText(more);
+        // Names of files are no markup, and a path can be copied.
+        for (QLabel* label : box.findChildren<QLabel*>()) {
+            if (label->text() == more) {
+                label->setTextFormat(Qt::PlainText);
+                label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+            }
+        }
+    }
     if (icon == Icon::information) {
         box.setIcon(QMessageBox::Information);
     } else if (icon == Icon::error) {
@@ -243,20 +259,26 @@ FixedFont DesktopPlatform::reportFont() {
 }
 
 void DesktopPlatform::endProgram(const Ending& ending) {
-    if (ending.reason == Ending::Reason::fatal) {
-        session_.sync();
-        showBox(QStringLiteral("Error '%1' en tiempo de ejecución:\n\n%2")
-                    .arg(ending.number)
-                    .arg(toQString(nombreFallo(ending.number))),
-                programTitle(), Icon::error);
-    } else if (ending.reason == Ending::Reason::fault) {
-        // What the views show now may be the very fault.
-        QString text = QStringLiteral("Caudalera ha tenido un fallo interno y debe cerrarse.");
-        if (!ending.what.empty())
-            text += QStringLiteral("\n\n") + QString::fromStdString(ending.what);
-        showBox(text, programTitle(), Icon::error);
+    if (ending.reason != Ending::Reason::exit) {
+        // They stand before the views and the box are tried, whatever becomes of those.
+        const Copies copies = copyAllOpen(session_.program(), copiesFolder_);
+        showBox(wordsOf(ending), programTitle(), Icon::error, copies.words());
     }
     session_.end(ending);
+}
+
+QString DesktopPlatform::wordsOf(const Ending& ending) {
+    if (ending.reason == Ending::Reason::fatal) {
+        session_.sync();
+        return QStringLiteral("Error '%1' en tiempo de ejecución:\n\n%2")
+            .arg(ending.number)
+            .arg(toQString(nombreFallo(ending.number)));
+    }
+    // What the views show now may be the very fault.
+    QString text = QStringLiteral("Caudalera ha tenido un fallo interno y debe cerrarse.");
+    if (!ending.what.empty())
+        text += QStringLiteral("\n\n") + QString::fromStdString(ending.what);
+    return text;
 }
 
 } // namespace caudalera

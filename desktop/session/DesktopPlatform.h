@@ -42,15 +42,25 @@ public:
     FixedFont reportFont() override;
     /// As it was when the program started: every number that is shown asks for it.
     std::string decimalSeparator() override { return decimalSeparator_; }
+    /// A failure is told with where copies of all that was open were put.
     void endProgram(const Ending& ending) override;
+    /// Where those go, each in a folder of its own; among the user's documents unless said
+    /// otherwise.
+    void putCopiesIn(const QString& folder) { copiesFolder_ = folder; }
+    const QString& copiesFolder() const { return copiesFolder_; }
 
 private:
     QWidget* parentForDialogs() const;
-    /// A box with one button; returns when it is pressed.
-    void showBox(const QString& text, const QString& title, Icon icon) const;
+    /// A box with one button, `more` in smaller type; returns when it is pressed.
+    void showBox(const QString& text, const QString& title, Icon icon,
+                 const QString& more = {}) const;
+    /// The words for a failure. Where the views can still be trusted they are brought in line
+    /// first.
+    QString wordsOf(const Ending& ending);
 
     Session& session_;
     const std::string decimalSeparator_;
+    QString copiesFolder_;
     std::unique_ptr<QPrinter> printer_;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/files/Variables.h"
 #include "shell/numbers/Integer16.h"
 #include "shell/numbers/Serie.h"
 #include "shell/window/GridHistory.h"
@@ -34,6 +35,8 @@ public:
 
     void load() override;
 
+    /// Writes the rows of data as a series file, as many as the grid has.
+    void guardarSerie(Variables& variables, const std::string& ruta) const;
     const SeriesLayout& seriesLayout() const { return formatoSerie_; }
 
 protected:
@@ -110,8 +113,8 @@ private:
     void cargar();
     void cargarRegistros(class SeriesFile& archivo);
     void vaciarDatos(long fila);
-    /// Elements i of the data columns, as the file stores them.
-    std::vector<float> registroDe(long i) const;
+    /// A row of data as the file stores it.
+    std::vector<float> registroDe(long fila) const;
 
     SeriesLayout formatoSerie_;
     std::string encabezadoFilas_;

@@ -16,14 +16,22 @@ std::vector<float> enSimple(const std::vector<Real>& valores) {
 
 } // namespace
 
-std::vector<float> Worksheet::registroDe(long i) const {
+std::vector<float> Worksheet::registroDe(long fila) const {
     std::vector<float> registro;
-    registro.reserve(columnas.size());
-    for (const Columna& columna : columnas) {
-        registro.push_back(
-            std::visit([i](const auto* serie) { return toSingle(Real((*serie)[i])); }, columna));
-    }
+    registro.reserve(formatoSerie_.fields.size());
+    for (long columna = 1; columna < grdt.Cols(); ++columna)
+        registro.push_back(toSingle(valorCelda(fila, columna)));
     return registro;
+}
+
+void Worksheet::guardarSerie(Variables& variables, const std::string& ruta) const {
+    SeriesFile archivo(variables, ruta, static_cast<int>(formatoSerie_.fields.size()),
+                       SeriesFile::Access::replace);
+    for (long fila = 1; fila <= filasDelReporte(); ++fila)
+        archivo.write(registroDe(fila));
+    if (formatoSerie_.lastRecord)
+        archivo.write(enSimple(ultimoRegistro()));
+    archivo.close();
 }
 
 void Worksheet::crear() {
@@ -32,14 +40,7 @@ void Worksheet::crear() {
         [&] {
             variables.nombreArchivo = cdCrear_.show(platform());
             leerCuadricula();
-            SeriesFile archivo(variables, variables.nombreArchivo,
-                               static_cast<int>(formatoSerie_.fields.size()),
-                               SeriesFile::Access::replace);
-            for (long i = 1; i <= n; ++i)
-                archivo.write(registroDe(i));
-            if (formatoSerie_.lastRecord)
-                archivo.write(enSimple(ultimoRegistro()));
-            archivo.close();
+            guardarSerie(variables, variables.nombreArchivo);
         },
         [&](const RuntimeFailure& failure) {
             // Rows past the capacity of the arrays end the program in spite of the trap.

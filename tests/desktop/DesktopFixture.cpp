@@ -26,6 +26,7 @@ DesktopFixture::DesktopFixture(const std::vector<WindowEntry>& windows)
     words::install(*qApp);
     QApplication::setQuitOnLastWindowClosed(false);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+    session.platform().putCopiesIn(copiesFolder());
     QObject::connect(&watchdog_, &QTimer::timeout, &watchdog_, [this] { watch(); });
     watchdog_.start(watchEvery);
     session.start();

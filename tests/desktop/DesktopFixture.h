@@ -39,6 +39,9 @@ public:
     DesktopFixture(const DesktopFixture&) = delete;
     DesktopFixture& operator=(const DesktopFixture&) = delete;
 
+    /// Where the copies go that a failing program leaves.
+    QString copiesFolder() const { return folder_.filePath(QStringLiteral("copias")); }
+
     Session session;
     Program& program() { return session.program(); }
 

@@ -76,6 +76,7 @@ void RandomWalk::start() {
         ++opened_;
         return view;
     });
+    session_->platform().putCopiesIn(folder_.filePath(QStringLiteral("copias")));
     session_->start();
 }
 
