@@ -6,6 +6,7 @@
 #include "desktop/grid/GridView.h"
 #include "desktop/session/Session.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,6 +22,27 @@ void GridView::typeText(const QString& text) {
     });
 }
 
+void GridView::travel(bool (GridHistory::*way)()) {
+    session_.act([&] {
+        Program& program = session_.program();
+        // What stands in an open box becomes a change first.
+        program.focus(grid_);
+        program.act([&] { (grid_.history->*way)(); });
+    });
+}
+
+bool GridView::travelByKey(QKeyEvent& event) {
+    if (!grid_.history || !(isUndo(event) || isRedo(event)))
+        return false;
+    if (grid_.editor->visible) {
+        // A key that came before the box had the keyboard.
+        QApplication::sendEvent(editor_, &event);
+    } else {
+        travel(isUndo(event) ? &GridHistory::undo : &GridHistory::redo);
+    }
+    return true;
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         copy();
@@ -34,6 +56,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         selectAllCells();
         return;
     }
+    if (travelByKey(*event))
+        return;
     if (editor_ && event->key() == Qt::Key_F2) {
         openCell();
         return;

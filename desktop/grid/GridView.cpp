@@ -92,6 +92,9 @@ void GridView::sync() {
         viewport()->update();
     }
     syncEditor();
+    // A message that a handler shows is no end of the user's act.
+    if (grid_.history && !session_.program().running())
+        grid_.history->note();
 }
 
 void GridView::fitHeader() {

@@ -3,6 +3,7 @@
 #include "desktop/controls/ControlView.h"
 #include "desktop/grid/CellDelegate.h"
 #include "desktop/grid/GridModel.h"
+#include "shell/window/GridHistory.h"
 
 #include <QTableView>
 
@@ -57,6 +58,10 @@ private:
     };
 
     void typeText(const QString& text);
+    /// Takes the last change of the data back, or brings it again.
+    void travel(bool (GridHistory::*way)());
+    /// Whether the key is one of taking back and bringing again.
+    bool travelByKey(QKeyEvent& event);
     /// Moves the current cell, or with Shift the other end of the selection, as far as it can go.
     void step(long rows, long cols, bool selecting);
     void moveTo(Cell cell, bool selecting);

@@ -139,12 +139,12 @@ void RandomWalk::step() {
         {6, &RandomWalk::queueSeveral}, {14, &RandomWalk::press},     {18, &RandomWalk::typeValue},
         {4, &RandomWalk::turnWheel},    {5, &RandomWalk::askForMenu}, {6, &RandomWalk::moveFocus},
         {6, &RandomWalk::paste},        {3, &RandomWalk::resize},     {2, &RandomWalk::close},
-        {5, &RandomWalk::trigger},
+        {5, &RandomWalk::trigger},      {6, &RandomWalk::takeBack},
     };
     if (QApplication::activePopupWidget() && chance(60)) {
         chooseFromMenu();
     } else {
-        int left = below(95);
+        int left = below(101);
         for (const Act& act : acts) {
             left -= act.weight;
             if (left < 0) {

@@ -78,6 +78,7 @@ private:
     void resize();
     void close();
     void trigger();
+    void takeBack();
 
     QTemporaryDir folder_;
     std::mt19937 random_;

@@ -1,4 +1,6 @@
 // The acts of the walk, as real events of the toolkit.
+#include "desktop/grid/GridEditor.h"
+#include "desktop/grid/GridView.h"
 #include "tests/desktop/session/RandomWalk.h"
 
 #include <QAbstractButton>
@@ -107,7 +109,7 @@ void RandomWalk::press() {
         Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Backspace,
         Qt::Key_Delete, Qt::Key_F1,     Qt::Key_F4,       Qt::Key_A,     Qt::Key_C,
         Qt::Key_V,      Qt::Key_X,      Qt::Key_Z,        Qt::Key_L,     Qt::Key_M,
-        Qt::Key_R,      Qt::Key_U,      Qt::Key_1};
+        Qt::Key_R,      Qt::Key_U,      Qt::Key_Y,        Qt::Key_1};
     const auto key = static_cast<Qt::Key>(keys[below(static_cast<int>(std::size(keys)))]);
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
     if (chance(30))
@@ -233,6 +235,38 @@ void RandomWalk::close() {
     view->close();
     if (chance(30))
         QCoreApplication::postEvent(view, new QCloseEvent);
+}
+
+void RandomWalk::takeBack() {
+    QWidget* view = anyView();
+    auto* grid = view ? view->findChild<GridView*>(QStringLiteral("grdt")) : nullptr;
+    if (!grid)
+        return;
+    note(QStringLiteral("take back in ") + described(*grid));
+    const QPointer<GridView> there = grid;
+    const auto cells = [&] {
+        QStringList all;
+        for (int row = 0; row < grid->model()->rowCount(); ++row) {
+            for (int col = 1; col < grid->model()->columnCount(); ++col)
+                all.append(grid->model()->index(row, col).data().toString());
+        }
+        return all;
+    };
+    const auto press = [&](Qt::Key key) {
+        if (there)
+            QTest::keyClick(grid, key, Qt::ControlModifier);
+    };
+    for (int i = below(3); i > 0; --i)
+        press(chance(70) ? Qt::Key_Z : Qt::Key_Y);
+    const bool open = there && grid->editor()->isVisible();
+    const QStringList before = there ? cells() : QStringList();
+    press(Qt::Key_Z);
+    const bool moved = there && cells() != before;
+    if (moved && !open) {
+        press(Qt::Key_Y);
+        if (cells() != before)
+            fault_ = QStringLiteral("what was taken back is not brought again");
+    }
 }
 
 void RandomWalk::trigger() {

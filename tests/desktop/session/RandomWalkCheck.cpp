@@ -23,7 +23,19 @@ QString differs(const Control& control, const QString& shown, const std::string&
         .arg(QString::fromStdString(control.name()), shown, wanted);
 }
 
+/// Values wait in the append row only while it is the current one.
+bool keepsAppendRow(const MSFlexGrid& grid) {
+    const long last = grid.Rows() - 1;
+    for (long col = grid.FixedCols(); grid.Row() != last && col < grid.Cols(); ++col) {
+        if (!grid.TextMatrix(last, col).empty())
+            return false;
+    }
+    return true;
+}
+
 QString inGrid(const MSFlexGrid& grid, const GridView& view) {
+    if (grid.history && !keepsAppendRow(grid))
+        return QStringLiteral("%1 holds values in its append row").arg(view.objectName());
     const QAbstractItemModel& cells = *view.model();
     if (cells.rowCount() != grid.Rows() - grid.FixedRows() || cells.columnCount() != grid.Cols())
         return QStringLiteral("%1 has another size").arg(view.objectName());
