@@ -2,6 +2,8 @@
 
 #include "desktop/controls/ContainerViews.h"
 #include "desktop/style/Style.h"
+#include "desktop/windows/Splitter.h"
+#include "shell/window/MSFlexGrid.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -29,6 +31,39 @@ bool growsWithin(const Layout& layout) {
 bool hasStretch(const Layout& layout) {
     return std::any_of(layout.children.begin(), layout.children.end(),
                        [](const Layout& child) { return child.stretch > 0; });
+}
+
+bool isChart(const Layout& layout) {
+    return layout.kind == Layout::Kind::control && layout.control->kind() == ControlKind::chart;
+}
+
+/// A grid that is read, not filled in.
+bool isResultGrid(const Layout& layout) {
+    return layout.kind == Layout::Kind::control && layout.control->kind() == ControlKind::grid &&
+           !static_cast<const MSFlexGrid*>(layout.control)->editor;
+}
+
+bool holdsResultGrid(const Layout& layout) {
+    return isResultGrid(layout) ||
+           std::any_of(layout.children.begin(), layout.children.end(), holdsResultGrid);
+}
+
+/// Which child is a chart with a grid of results before it; none if 0.
+std::size_t chartBehindResults(const std::vector<Layout>& children) {
+    const auto chart = std::find_if(children.begin(), children.end(), isChart);
+    return chart != children.end() && std::any_of(children.begin(), chart, holdsResultGrid)
+               ? static_cast<std::size_t>(chart - children.begin())
+               : 0;
+}
+
+/// How a child of a column stands in its width. Frames in the column that gets the window's spare
+/// room hug what they hold, and the ring around an option that has the keyboard hugs the option.
+Qt::Alignment sideIn(const Layout& column, const Layout& child) {
+    const bool frame =
+        child.kind == Layout::Kind::frame && column.stretch > 0 && !growsWithin(child);
+    const bool option =
+        child.kind == Layout::Kind::control && child.control->kind() == ControlKind::option;
+    return frame || option ? Qt::AlignLeft : Qt::Alignment();
 }
 
 int widestIn(const QGridLayout& grid, int column) {
@@ -81,19 +116,20 @@ QLayout* LayoutBuilder::content(const Layout& layout, FieldBlocks& blocks) {
     return single;
 }
 
-void LayoutBuilder::add(QBoxLayout& box, const Layout& child, FieldBlocks& blocks) {
+void LayoutBuilder::add(QBoxLayout& box, const Layout& child, FieldBlocks& blocks,
+                        Qt::Alignment where) {
     switch (child.kind) {
     case Layout::Kind::none:
         break;
     case Layout::Kind::control:
-        box.addWidget(&views_.of(*child.control).widget(), child.stretch);
+        box.addWidget(&views_.of(*child.control).widget(), child.stretch, where);
         break;
     case Layout::Kind::frame: {
         QWidget* group = frame(child, blocks);
         // Below other things a frame is as high as its content; beside them it fills the row.
         if (box.direction() == QBoxLayout::TopToBottom && !growsWithin(child))
             group->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-        box.addWidget(group, child.stretch);
+        box.addWidget(group, child.stretch, where);
         break;
     }
     case Layout::Kind::tabs:
@@ -105,13 +141,15 @@ void LayoutBuilder::add(QBoxLayout& box, const Layout& child, FieldBlocks& block
 }
 
 QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& blocks) {
+    if (const std::size_t chart = chartBehindResults(layout.children))
+        return split(layout, upright, chart, blocks);
     auto* box = new QBoxLayout(upright ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     box->setContentsMargins(0, 0, 0, 0);
     box->setSpacing(upright && holdsOnlyControls(layout) ? style::halfUnit() : style::unit());
     const Layout* before = nullptr;
     for (const Layout& child : layout.children) {
         if (upright) {
-            add(*box, child, blocks);
+            add(*box, child, blocks, sideIn(layout, child));
         } else {
             // A unit must not read as part of the label beside it.
             if (before && before->kind == Layout::Kind::fields &&
@@ -131,6 +169,27 @@ QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& 
         box->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding));
     }
     return box;
+}
+
+QBoxLayout* LayoutBuilder::split(const Layout& layout, bool upright, std::size_t chart,
+                                 FieldBlocks& blocks) {
+    const auto border = layout.children.begin() + static_cast<std::ptrdiff_t>(chart);
+    Layout results = layout;
+    results.children.assign(layout.children.begin(), border);
+    Layout drawing = layout;
+    drawing.children.assign(border, layout.children.end());
+    // The border is there to give the grid more rows or fewer.
+    for (Layout& child : results.children) {
+        if (holdsResultGrid(child))
+            child.stretch = std::max(child.stretch, 1);
+    }
+    auto* splitter = new Splitter(upright ? Qt::Vertical : Qt::Horizontal);
+    splitter->add(box(results, upright, blocks));
+    splitter->add(box(drawing, upright, blocks));
+    auto* single = new QVBoxLayout;
+    single->setContentsMargins(0, 0, 0, 0);
+    single->addWidget(splitter);
+    return single;
 }
 
 QLayout* LayoutBuilder::fields(const Layout& layout, FieldBlocks& blocks) {
