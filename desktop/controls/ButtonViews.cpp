@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 
 namespace caudalera {
@@ -60,6 +61,15 @@ void CommandButton::showIcon(bool hover) {
     const QIcon::Mode mode = hover && !accented_ ? QIcon::Active : QIcon::Normal;
     const QPixmap pixmap = drawing_.pixmap(iconSize(), devicePixelRatioF(), mode);
     setIcon(accented_ ? inOneColor(pixmap, style::accentText()) : pixmap);
+}
+
+QSize CommandButton::minimumSizeHint() const {
+    const int edges = style()->pixelMetric(QStyle::PM_ButtonMargin) +
+                      2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    const int drawing = drawing_.isNull() ? 0 : iconSize().width() + style::halfUnit();
+    const int word = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const QSize usual = sizeHint();
+    return {std::min(drawing + word + edges, usual.width()), usual.height()};
 }
 
 void CommandButton::enterEvent(QEnterEvent* event) {

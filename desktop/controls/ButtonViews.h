@@ -18,6 +18,9 @@ public:
     /// Why the command is out of reach here, for want of a printer; empty if it is not.
     QString missing() const;
 
+    /// Icon and word without the width that the style gives short words, too.
+    QSize minimumSizeHint() const override;
+
 protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;

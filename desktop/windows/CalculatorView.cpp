@@ -3,6 +3,7 @@
 #include "desktop/controls/FieldViews.h"
 #include "desktop/controls/KeyEvents.h"
 #include "desktop/style/Style.h"
+#include "desktop/windows/Placement.h"
 #include "shell/main/frmCalculadora.h"
 
 #include <QApplication>
@@ -245,7 +246,10 @@ void CalculatorView::comeTo(QWidget& opener) {
     if (isVisible()) {
         stayAbove();
     } else {
-        placeBeside(opener);
+        // Its words are there by now.
+        placement::remeasure(*this);
+        resize(layout()->totalSizeHint().expandedTo(layout()->totalMinimumSize()));
+        placement::standBeside(*this, opener);
     }
 }
 
@@ -258,22 +262,6 @@ void CalculatorView::showEvent(QShowEvent* event) {
     // The platform's window stands by now.
     stayAbove();
     QWidget::showEvent(event);
-}
-
-void CalculatorView::placeBeside(const QWidget& opener) {
-    const QRect screen = opener.screen()->availableGeometry();
-    const QRect beside = opener.frameGeometry();
-    // Its own frame, which it has not got yet, will be as wide as that of the other.
-    const QSize framed = size() + beside.size() - opener.size();
-    const int rightmost = screen.right() + 1 - framed.width();
-    const int lowest = screen.bottom() + 1 - framed.height();
-    int x = beside.right() + 1;
-    if (x > rightmost) {
-        const int left = beside.left() - framed.width();
-        x = left >= screen.left() ? left : rightmost;
-    }
-    const QPoint corner(x, std::max(std::min(beside.top(), lowest), screen.top()));
-    setGeometry(QRect(corner + opener.geometry().topLeft() - beside.topLeft(), size()));
 }
 
 void CalculatorView::closeEvent(QCloseEvent* event) {

@@ -72,7 +72,6 @@ private:
     void openMenu(const QPoint& globalPosition);
     /// Stands above another window from now on, and beside it as far as the screen has room.
     void comeTo(QWidget& opener);
-    void placeBeside(const QWidget& opener);
     void stayAbove();
 
     Session& session_;

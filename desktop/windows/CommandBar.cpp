@@ -7,16 +7,18 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QWidget>
+#include <vector>
 
 namespace caudalera {
 
-QWidget* commandBar(Window& window, ViewSet& views, QWidget& parent) {
+QWidget* commandBar(Window& window, ViewSet& views, QWidget& parent, int widest) {
     auto* bar = new QWidget(&parent);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(style::unit());
     const int margin = style::unit();
     const QSize buttonSize(11 * style::unit(), 7 * style::halfUnit());
+    std::vector<QWidget*> buttons;
     for (std::size_t i = 0; i < window.commands.size(); ++i) {
         const Window::CommandGroup& group = window.commands[i];
         QWidget* box = group.frame ? &views.of(*group.frame).widget() : new QWidget(bar);
@@ -31,6 +33,7 @@ QWidget* commandBar(Window& window, ViewSet& views, QWidget& parent) {
             QWidget& widget = views.of(*button).widget();
             widget.setMinimumSize(widget.sizeHint().expandedTo(buttonSize));
             inside->addWidget(&widget);
+            buttons.push_back(&widget);
         }
         inside->addStretch(1);
         // What leads out of the window stands apart, at the right.
@@ -38,6 +41,10 @@ QWidget* commandBar(Window& window, ViewSet& views, QWidget& parent) {
             row->addStretch(1);
         // Without a title above it a box is lower: they all end on one line.
         row->addWidget(box, 0, Qt::AlignBottom);
+    }
+    if (bar->sizeHint().width() > widest) {
+        for (QWidget* button : buttons)
+            button->setMinimumWidth(0);
     }
     return bar;
 }

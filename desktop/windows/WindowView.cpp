@@ -4,26 +4,15 @@
 #include "desktop/grid/GridView.h"
 #include "desktop/style/Style.h"
 #include "desktop/windows/CommandBar.h"
+#include "desktop/windows/ContentArea.h"
 #include "desktop/windows/LayoutBuilder.h"
+#include "desktop/windows/Placement.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QScreen>
 #include <QVBoxLayout>
-#include <algorithm>
 
 namespace caudalera {
-
-namespace {
-
-/// Share of the screen that a window with grids or a chart takes at first.
-constexpr double shareOfScreen = 0.9;
-
-bool grows(const Layout& layout) {
-    return layout.stretch > 0 || std::any_of(layout.children.begin(), layout.children.end(), grows);
-}
-
-} // namespace
 
 WindowView::WindowView(Session& session, Window& window)
     : session_(session), window_(window), views_(session, *this) {
@@ -31,18 +20,31 @@ WindowView::WindowView(Session& session, Window& window)
     build();
     orderFocus();
     sync();
-    takeSmallestSize();
-    takeFirstSize();
+    takeFirstPlace();
 }
 
 void WindowView::build() {
     auto* column = new QVBoxLayout(this);
     const int margin = style::unit() + style::halfUnit();
-    column->setContentsMargins(margin, margin, margin, style::halfUnit());
-    column->setSpacing(margin);
-    column->addLayout(LayoutBuilder(views_).build(window_.layout), 1);
-    if (!window_.commands.empty())
-        column->addWidget(commandBar(window_, views_, *this));
+    column->setContentsMargins(0, 0, 0, style::halfUnit());
+    column->setSpacing(0);
+    auto* inside = new QVBoxLayout;
+    inside->setContentsMargins(margin, margin, margin, margin);
+    inside->setSpacing(margin);
+    inside->addLayout(LayoutBuilder(views_).build(window_.layout), 1);
+    content_ = new ContentArea(inside, this);
+    column->addWidget(content_, 1);
+    if (!window_.commands.empty()) {
+        const int widest = placement::largestFirstSize(*this).width() - 2 * margin;
+        QWidget* bar = commandBar(window_, views_, *this, widest);
+        if (bar->minimumSizeHint().width() > widest) {
+            // On a very narrow screen they scroll with the rest.
+            inside->addWidget(bar);
+        } else {
+            bar->setContentsMargins(margin, 0, margin, margin);
+            column->addWidget(bar);
+        }
+    }
     for (Control* control : window_.controls()) {
         if (control->kind() == ControlKind::status)
             column->addWidget(&views_.of(*control).widget());
@@ -72,19 +74,32 @@ bool WindowView::event(QEvent* event) {
 }
 
 void WindowView::takeSmallestSize() {
-    const QSize smallest = layout()->totalMinimumSize();
-    setMinimumSize(
-        smallest.expandedTo({0, layout()->totalMinimumHeightForWidth(smallest.width())}));
+    const QSize largest = placement::largestFirstSize(*this);
+    const int around = layout()->totalMinimumSize().height() - content_->minimumSizeHint().height();
+    content_->setLargestMinimum(largest - QSize(0, around));
+    setMinimumSize(layout()->totalMinimumSize().boundedTo(largest));
 }
 
-void WindowView::takeFirstSize() {
-    const QSize available = screen()->availableSize();
-    const QSize wanted = layout()->totalSizeHint();
-    QSize size = wanted;
-    if (grows(window_.layout))
-        size = wanted.expandedTo(QSizeF(available * shareOfScreen).toSize());
-    // Leaves room for the frame that the window manager puts around it.
-    resize(size.boundedTo(available - QSize(2, 5) * style::unit()));
+QSize WindowView::smallestWithAllSeen() {
+    for (const auto& view : views_.all())
+        view->widget().setVisible(true);
+    placement::remeasure(*content_);
+    const QSize smallest = content_->smallestContent();
+    for (const auto& view : views_.all())
+        view->sync();
+    placement::remeasure(*content_);
+    return smallest;
+}
+
+void WindowView::takeFirstPlace() {
+    const QSize smallest = smallestWithAllSeen();
+    takeSmallestSize();
+    const QSize content = content_->sizeHint();
+    const QSize around = layout()->totalSizeHint() - content;
+    const QSize wanted = content.expandedTo(smallest) + around;
+    resize(content_->bounded(wanted, placement::largestFirstSize(*this)));
+    const QWidget* opener = QApplication::activeWindow();
+    placement::centreOn(*this, opener ? opener->window() : nullptr);
 }
 
 void WindowView::sync() {
@@ -108,8 +123,14 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 bool WindowView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn)
-        focused(watched, static_cast<QFocusEvent*>(event)->reason());
+    if (event->type() == QEvent::FocusIn) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        // What is clicked is in sight, and must not move under the pointer.
+        if (auto* widget = qobject_cast<QWidget*>(watched);
+            reason != Qt::MouseFocusReason && content_->isAncestorOf(widget))
+            content_->ensureWidgetVisible(widget);
+        focused(watched, reason);
+    }
     // What a widget does when it is left finds the model's keyboard at the next one already.
     if (event->type() == QEvent::FocusOut)
         focused(QApplication::focusWidget(), static_cast<QFocusEvent*>(event)->reason());

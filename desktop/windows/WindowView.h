@@ -7,6 +7,8 @@
 
 namespace caudalera {
 
+class ContentArea;
+
 /// A window of the model as a window of the desktop, built from its layout data: its frames and
 /// fields, the commands below them, the status bar.
 class WindowView : public QWidget, public View {
@@ -35,14 +37,18 @@ private:
     void syncFocus();
     /// The user has brought the keyboard to a widget.
     void focused(const QObject* widget, Qt::FocusReason reason);
-    /// At the smallest width sentences wrap, which the layout's own smallest height leaves out.
+    /// No smaller than its content, unless the screen is: then the content scrolls.
     void takeSmallestSize();
-    /// A first size that suits the content and the screen.
-    void takeFirstSize();
+    /// The size that its content asks for, with room for what comes into view later, over the
+    /// window that it came from.
+    void takeFirstPlace();
+    /// What the content needs when all of it is seen.
+    QSize smallestWithAllSeen();
 
     Session& session_;
     Window& window_;
     ViewSet views_;
+    ContentArea* content_ = nullptr;
     std::vector<Focusable> focusChain_;
 };
 

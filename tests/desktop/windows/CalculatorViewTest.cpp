@@ -235,10 +235,9 @@ private slots:
         QCOMPARE(view->windowHandle()->transientParent(), sheetView.windowHandle());
         const QRect screen = view->screen()->availableGeometry();
         QVERIFY(screen.contains(view->frameGeometry()));
-        if (sheetView.frameGeometry().right() + view->frameGeometry().width() < screen.right())
-            QVERIFY(!sheetView.frameGeometry().intersects(view->frameGeometry()));
-        else
-            QCOMPARE(view->frameGeometry().right(), screen.right());
+        // The screen is too narrow for both side by side, and has room below the other one.
+        QVERIFY(sheetView.frameGeometry().right() + view->frameGeometry().width() > screen.right());
+        QVERIFY(!sheetView.frameGeometry().intersects(view->frameGeometry()));
 
         desktop_->type("7");
         desktop_->open("frmParamEsta");
