@@ -38,7 +38,7 @@ IntensityTab::IntensityTab(RainfallFlowWindow& window) : ventana_(window), hoja_
     optDuracionAdiNo.onClick = [this] { mostrarDuracion(false); };
     optProvincias.onClick = [this] { elegirProvincias(); };
     optRegistros.onClick = [this] { elegirRegistros(); };
-    bcalcularI.onClick = [this] { calcular(); };
+    bcalcularI.onClick = [this] { hoja_.registrarCalculo([this] { calcular(); }); };
 }
 
 Layout IntensityTab::disposicion() {

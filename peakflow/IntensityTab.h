@@ -8,6 +8,7 @@
 #include "shell/worksheet/DataEntry.h"
 
 #include <optional>
+#include <vector>
 
 namespace caudalera {
 
@@ -66,6 +67,7 @@ public:
     bool calculado() const { return calculado_; }
 
     Layout disposicion();
+    std::vector<const Control*> resultados() const { return {&txttci, &txtImaxi, &txtecuacioni}; }
     /// What choosing the tab does, and clearing it.
     void entrar();
     void limpiar();

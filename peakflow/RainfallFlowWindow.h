@@ -112,6 +112,8 @@ protected:
     void calcular() override;
     void limpiar() override;
     void reiniciarResultados() override;
+    /// Of the three tabs one calculates from the grid.
+    std::vector<const Control*> resultados() const override { return intensidad.resultados(); }
     void antesDeAccesar() override { intensidad.antesDeAccesar(); }
     void escribirReporte(ReportWriter& reporte) override;
 

@@ -3,6 +3,8 @@
 #include "shell/numbers/momentos.h"
 #include "shell/text/Text.h"
 
+#include <vector>
+
 namespace caudalera {
 
 namespace {
@@ -42,6 +44,12 @@ void SeriesWorksheet::leerOrdenada() {
 void SeriesWorksheet::borrarResultados() {
     Worksheet::borrarResultados();
     mostrarOrdenados(false);
+}
+
+std::vector<const Control*> SeriesWorksheet::resultados() const {
+    auto calculados = Worksheet::resultados();
+    std::erase(calculados, &grdorden);
+    return calculados;
 }
 
 void SeriesWorksheet::reiniciarOrdenados(long filas) {

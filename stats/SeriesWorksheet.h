@@ -23,6 +23,8 @@ protected:
     /// Reads the grid and sorts a copy of the series.
     void leerOrdenada();
     void borrarResultados() override;
+    /// Without the sorted list, which has its own command.
+    std::vector<const Control*> resultados() const override;
 
     void reporteDeSerie(ReportWriter& reporte) const;
     /// What the sorted list holds, whether it is shown or not.

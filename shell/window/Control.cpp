@@ -53,6 +53,7 @@ TextBox::TextBox(Window& window, const std::string& name, const std::string& lab
       unit_(attachedLabel(window, name + ".unidad", unitText)) {}
 
 void TextBox::setText(std::string text) {
+    countWriting();
     if (text == content_.text())
         return;
     enterText(std::move(text));

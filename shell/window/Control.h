@@ -3,6 +3,7 @@
 #include "shell/window/EditedText.h"
 #include "shell/window/Key.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -48,13 +49,20 @@ public:
     bool visible = true;
     bool enabled = true;
 
+    /// Grows whenever the program writes a text of it, be it the one that stands there.
+    std::uint64_t written() const { return written_; }
+
     std::function<void()> onGotFocus;
     std::function<void()> onLostFocus;
+
+protected:
+    void countWriting() { ++written_; }
 
 private:
     Window& window_;
     std::string name_;
     ControlKind kind_;
+    std::uint64_t written_ = 0;
 };
 
 class Label : public Control {

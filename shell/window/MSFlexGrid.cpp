@@ -82,6 +82,7 @@ void MSFlexGrid::RemoveItem(long row) {
 }
 
 void MSFlexGrid::setTextMatrix(long row, long col, std::string text) {
+    countWriting();
     auto& cell = cells_[position(row, col)];
     if (cell == text)
         return;

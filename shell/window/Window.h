@@ -63,6 +63,11 @@ public:
     void setFocus(Control* control);
     void setFocus(Control& control) { setFocus(&control); }
 
+    /// What the status bar tells of the window beside its panels; empty for nothing.
+    virtual std::string status() const { return {}; }
+    /// The controls whose results are not those of the data any more.
+    virtual std::vector<const Control*> staleResults() const { return {}; }
+
     virtual void load() {}
     virtual void unload() {}
 

@@ -90,6 +90,7 @@ void CalculationWindow::reporte() {
             ReportWriter escritor(ventanaDeReportes(program())->documentForReport().rtfText);
             escritor.titulo(caption);
             escribirReporte(escritor);
+            trasReporte();
         },
         [this](const RuntimeFailure&) {
             mensaje("No se puede editar el reporte: " + caption, "Mensaje de error",

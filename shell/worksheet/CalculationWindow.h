@@ -52,6 +52,8 @@ protected:
     virtual void escribirReporte(ReportWriter& reporte) = 0;
     /// Rows of data that the report counts.
     virtual long filasDelReporte() const { return 0; }
+    /// The report stands.
+    virtual void trasReporte() {}
 
 private:
     void reporte();

@@ -56,6 +56,11 @@ Worksheet::Worksheet(Program& program, std::string name, std::string text,
     };
     mandatoDeArchivo(bCrear);
     mandatoDeArchivo(bAccesar);
+    bCalcular.onClick = [this] { registrarCalculo([this] { calcular(); }); };
+    bLimpiar.onClick = [this] {
+        limpiar();
+        estado_.done("pantalla limpia");
+    };
     bCrear.onClick = [this] { crear(); };
     bAccesar.onClick = [this] { accesar(); };
 }
@@ -111,6 +116,7 @@ void Worksheet::leerCuadricula() {
 }
 
 void Worksheet::leerFila(long fila) {
+    ++filasLeidas_;
     for (std::size_t columna = 0; columna < columnas.size(); ++columna) {
         const Real valor = valorCelda(fila, static_cast<long>(columna) + 1);
         if (Serie* const* serie = std::get_if<Serie*>(&columnas[columna])) {

@@ -6,8 +6,10 @@
 #include "shell/window/GridHistory.h"
 #include "shell/worksheet/CalculationWindow.h"
 #include "shell/worksheet/CommonDialog.h"
+#include "shell/worksheet/DataState.h"
 #include "shell/worksheet/SeriesLayout.h"
 
+#include <functional>
 #include <span>
 #include <string>
 #include <variant>
@@ -34,6 +36,9 @@ public:
     StatusBar StatusBar1{*this, "StatusBar1", 1};
 
     void load() override;
+    /// How many data there are and what was done with them last, or that the results are older.
+    std::string status() const override;
+    std::vector<const Control*> staleResults() const override;
 
     /// Writes the rows of data as a series file, as many as the grid has.
     void guardarSerie(Variables& variables, const std::string& ruta) const;
@@ -63,6 +68,10 @@ protected:
     virtual std::string etiquetaFila(long fila) const;
     /// Labels the data rows anew; the append row keeps its mark.
     void renumerarFilas();
+    /// The controls that hold what is calculated from the grid.
+    virtual std::vector<const Control*> resultados() const;
+    /// Runs the steps of a calculation; what they write is of the data as they are then.
+    void registrarCalculo(const std::function<void()>& pasos);
     /// A row was completed at the append row.
     virtual void trasAgregarFila() {}
     /// Takes the results of an earlier calculation away: the result grids and the registered
@@ -82,6 +91,7 @@ protected:
     virtual void recibirUltimoRegistro(std::span<const float> /*registro*/) {}
 
     long filasDelReporte() const override { return grdt.Rows() - 2; }
+    void trasReporte() override { estado_.done("reporte listo"); }
     /// Rows of data, read from the grid as a 16-bit count.
     Integer16 contarFilas() const { return grdt.Rows() - 2; }
     /// Puts the cursor on the first free cell of `grdt`.
@@ -109,6 +119,8 @@ private:
     void insertarFila();
     void eliminarFila();
     void crear();
+    /// Notes what was done with the file chosen last.
+    void anotarArchivo(const char* hecho);
     void accesar();
     void cargar();
     void cargarRegistros(class SeriesFile& archivo);
@@ -116,6 +128,9 @@ private:
     /// A row of data as the file stores it.
     std::vector<float> registroDe(long fila) const;
 
+    DataState estado_{grdt};
+    /// Rows read since a calculation began.
+    long filasLeidas_ = 0;
     SeriesLayout formatoSerie_;
     std::string encabezadoFilas_;
     CommonDialog cdCrear_;

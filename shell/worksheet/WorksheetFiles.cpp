@@ -41,6 +41,7 @@ void Worksheet::crear() {
             variables.nombreArchivo = cdCrear_.show(platform());
             leerCuadricula();
             guardarSerie(variables, variables.nombreArchivo);
+            anotarArchivo("guardado en ");
         },
         [&](const RuntimeFailure& failure) {
             // Rows past the capacity of the arrays end the program in spite of the trap.
@@ -59,6 +60,7 @@ void Worksheet::accesar() {
             variables.nombreArchivo = cdAccesar_.show(platform());
             cargar();
             trasAccesar();
+            anotarArchivo("cargado de ");
         },
         [&](const RuntimeFailure& failure) {
             if (failure.failure() == Failure::dialogCancelled)
