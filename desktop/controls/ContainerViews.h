@@ -2,10 +2,7 @@
 
 #include "desktop/controls/ControlView.h"
 
-#include <vector>
-
 class QGroupBox;
-class QLabel;
 class QTabWidget;
 
 namespace caudalera {
@@ -27,16 +24,6 @@ public:
     QTabWidget& tabs() const;
     QWidget* focusTarget() const override;
     void sync() override;
-};
-
-class StatusView : public ControlView {
-public:
-    StatusView(StatusBar& bar, QWidget* parent);
-
-    void sync() override;
-
-private:
-    std::vector<QLabel*> panels_;
 };
 
 } // namespace caudalera

@@ -40,6 +40,12 @@ QColor coverGround() {
 QColor calmField() {
     return {0xEE, 0xF3, 0xF5};
 }
+QColor staleGround() {
+    return {0xEC, 0xE7, 0xDA};
+QColor staleText() {
+    return {0x56, 0x60, 0x65};
+QColor staleVeil() {
+    return {0xCF, 0xC4, 0xA8, 0x59};
 QColor editedCell() {
     return {0xFF, 0xF3, 0xCF};
 }

@@ -22,6 +22,12 @@ QColor paleAccent();
 QColor coverGround();
 /// Ground of fields that hold results.
 QColor calmField();
+/// Ground and text of results that are older than the data: 5 : 1 between them, and more than
+/// 4.5 : 1 on the grounds of fixed and selected cells.
+QColor staleGround();
+QColor staleText();
+/// Over a chart: its captions keep 5 : 1.
+QColor staleVeil();
 /// Ground of a cell while it is being edited.
 QColor editedCell();
 /// Ground of selected cells.

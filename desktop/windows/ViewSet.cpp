@@ -5,6 +5,7 @@
 #include "desktop/controls/ContainerViews.h"
 #include "desktop/controls/FieldViews.h"
 #include "desktop/controls/PictureView.h"
+#include "desktop/controls/StatusLine.h"
 #include "desktop/grid/GridView.h"
 
 #include <algorithm>

@@ -15,7 +15,7 @@
 namespace caudalera {
 
 WindowView::WindowView(Session& session, Window& window)
-    : session_(session), window_(window), views_(session, *this) {
+    : session_(session), window_(window), views_(session, *this), staleDress_(views_) {
     setObjectName(toQString(window.name()));
     build();
     orderFocus();
@@ -107,6 +107,7 @@ void WindowView::sync() {
         setWindowTitle(title);
     for (const auto& view : views_.all())
         view->sync();
+    staleDress_.sync(window_.staleResults());
     syncFocus();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/session/Session.h"
+#include "desktop/windows/StaleDress.h"
 #include "desktop/windows/ViewSet.h"
 
 #include <QWidget>
@@ -10,7 +11,7 @@ namespace caudalera {
 class ContentArea;
 
 /// A window of the model as a window of the desktop, built from its layout data: its frames and
-/// fields, the commands below them, the status bar.
+/// fields, the commands below them, the status bar. Results that are older than the data are muted.
 class WindowView : public QWidget, public View {
     Q_OBJECT
 
@@ -48,6 +49,7 @@ private:
     Session& session_;
     Window& window_;
     ViewSet views_;
+    StaleDress staleDress_;
     ContentArea* content_ = nullptr;
     std::vector<Focusable> focusChain_;
 };
