@@ -45,7 +45,8 @@ std::string cell(std::string text, const std::string& decimal) {
     if (sign == std::string::npos)
         return text;
     std::string number = text;
-    number.replace(sign, decimal.size(), ".");
+    number.erase(sign, decimal.size());
+    number.insert(sign, 1, '.');
     const bool isNumber = number.find_first_not_of(" 0123456789.+-eE") == std::string::npos &&
                           number.find('.', sign + 1) == std::string::npos;
     return isNumber ? number : text;
@@ -139,9 +140,14 @@ private:
         std::size_t end = 0;
         for (long col = firstCol; col < grid.Cols(); ++col) {
             std::string title;
-            for (long row = 0; row < grid.FixedRows(); ++row)
-                title += (row > 0 ? " " : "") + grid.TextMatrix(row, col);
-            text += (col > firstCol ? "\t" : "") + cell(title, decimal_);
+            for (long row = 0; row < grid.FixedRows(); ++row) {
+                if (row > 0)
+                    title += ' ';
+                title += grid.TextMatrix(row, col);
+            }
+            if (col > firstCol)
+                text += '\t';
+            text += cell(title, decimal_);
         }
         text += '\n';
         for (long row = grid.FixedRows(); row < grid.Rows(); ++row) {
@@ -149,7 +155,9 @@ private:
             for (long col = firstCol; col < grid.Cols(); ++col) {
                 const std::string& content = grid.TextMatrix(row, col);
                 holds = holds || (col >= grid.FixedCols() && !content.empty());
-                text += (col > firstCol ? "\t" : "") + cell(content, decimal_);
+                if (col > firstCol)
+                    text += '\t';
+                text += cell(content, decimal_);
             }
             text += '\n';
             if (holds)

@@ -42,10 +42,13 @@ QColor calmField() {
 }
 QColor staleGround() {
     return {0xEC, 0xE7, 0xDA};
+}
 QColor staleText() {
     return {0x56, 0x60, 0x65};
+}
 QColor staleVeil() {
     return {0xCF, 0xC4, 0xA8, 0x59};
+}
 QColor editedCell() {
     return {0xFF, 0xF3, 0xCF};
 }
