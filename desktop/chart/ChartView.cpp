@@ -1,17 +1,22 @@
 #include "desktop/chart/ChartView.h"
 
-#include "desktop/chart/ChartImage.h"
+#include "desktop/chart/ChartExport.h"
+#include "desktop/chart/ChartNavigation.h"
+#include "desktop/chart/ChartReadout.h"
 #include "desktop/chart/ChartTicker.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/style/Style.h"
-#include "desktop/words/FileKinds.h"
 #include "shell/window/Program.h"
 
 #include <QClipboard>
-#include <QFileDialog>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMenu>
-#include <QMessageBox>
+#include <QPainter>
+#include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -21,6 +26,9 @@
 namespace caudalera {
 
 namespace {
+
+/// Around the chart while it has the keyboard, in pixels.
+constexpr int focusRing = 2;
 
 QString text(const std::string& utf8) {
     return toQString(utf8);
@@ -36,15 +44,6 @@ std::vector<double> positionsOf(const Graph& graph, std::size_t count) {
     std::vector<double> ranks(count);
     std::iota(ranks.begin(), ranks.end(), 1.0);
     return ranks;
-}
-
-QString captionOf(const std::vector<Label*>& labels) {
-    QStringList captions;
-    for (const Label* label : labels) {
-        if (label->visible)
-            captions.append(text(label->caption));
-    }
-    return captions.join(u' ');
 }
 
 /// Length of the longest caption that an axis can have, whichever of its labels are visible.
@@ -70,6 +69,25 @@ QCPRange withMargins(QCPRange range, double share) {
     return wide;
 }
 
+/// Gives an axis so many ticks, or as many of them as have their labels side by side; the length of
+/// the longest one.
+template <typename Length>
+int giveTicks(const QCPAxis& axis, int most, int room, Length lengthOf) {
+    QVector<double> ticks;
+    QVector<QString> labels;
+    int length = 0;
+    for (int count = most; count > 1; --count) {
+        axis.ticker()->setTickCount(count);
+        axis.ticker()->generate(axis.range(), {}, 'g', 6, ticks, nullptr, &labels);
+        length = 0;
+        for (const QString& label : labels)
+            length = std::max(length, lengthOf(label));
+        if (length * labels.size() <= room)
+            break;
+    }
+    return length;
+}
+
 QCPScatterStyle markerOf(int index, const QPen& pen) {
     constexpr std::array shapes = {QCPScatterStyle::ssDisc,     QCPScatterStyle::ssSquare,
                                    QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
@@ -84,16 +102,19 @@ QCPScatterStyle markerOf(int index, const QPen& pen) {
 ChartView::ChartView(const Graph& graph, QWidget* parent)
     : QWidget(parent), graph_(graph), plot_(new QCustomPlot(this)),
       xTicker_(new ChartTicker(decimalSeparator(graph))),
-      yTicker_(new ChartTicker(decimalSeparator(graph))) {
+      yTicker_(new ChartTicker(decimalSeparator(graph))), legend_(*plot_),
+      navigation_(new ChartNavigation(*plot_)),
+      readout_(new ChartReadout(*plot_, *xTicker_, *yTicker_)),
+      wholeButton_(new QToolButton(plot_)) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
     setAccessibleName(tr("Gráfico"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(focusRing, focusRing, focusRing, focusRing);
     layout->addWidget(plot_);
     build();
-    connectMouse();
+    addOverlays();
     setVisible(false);
 }
 
@@ -109,11 +130,10 @@ QSize ChartView::minimumSizeHint() const {
 }
 
 void ChartView::build() {
-    // A chart is looked at, not edited: the focus stays with the field that has it.
+    // A chart is looked at, not edited: a click leaves the focus with the field that has it.
+    setFocusPolicy(Qt::TabFocus);
     plot_->setFocusPolicy(Qt::NoFocus);
     plot_->setAutoAddPlottableToLegend(false);
-    plot_->setInteractions(QCP::iRangeZoom | QCP::iRangeDrag);
-    plot_->setNoAntialiasingOnDrag(false);
     plot_->xAxis->setTicker(xTicker_);
     plot_->yAxis->setTicker(yTicker_);
     xTicker_->setTickStepStrategy(QCPAxisTicker::tssReadability);
@@ -122,6 +142,23 @@ void ChartView::build() {
     for (QCPAxis* far : {plot_->xAxis2, plot_->yAxis2})
         far->setTicks(false);
     applyFonts();
+    plot_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(plot_, &QWidget::customContextMenuRequested, this, &ChartView::openMenu);
+    connect(plot_, &QCustomPlot::beforeReplot, this, &ChartView::fitTicks);
+    connect(plot_, &QCustomPlot::afterLayout, this, &ChartView::fitTitles);
+    connect(plot_, &QCustomPlot::afterReplot, this, &ChartView::placeOverlays);
+    plot_->installEventFilter(this);
+}
+
+void ChartView::addOverlays() {
+    wholeButton_->setObjectName(QStringLiteral("verTodo"));
+    wholeButton_->setText(tr("Ver todo"));
+    wholeButton_->setToolTip(tr("Mostrar todo el gráfico (0, Inicio o doble clic)"));
+    wholeButton_->setFocusPolicy(Qt::NoFocus);
+    wholeButton_->setCursor(Qt::ArrowCursor);
+    wholeButton_->hide();
+    connect(wholeButton_, &QToolButton::clicked, this, &ChartView::showAll);
+    readout_->keepClearOf(*wholeButton_);
 }
 
 void ChartView::applyFonts() {
@@ -143,31 +180,7 @@ void ChartView::applyFonts() {
         axis->grid()->setPen(QPen(line.color(), 1, Qt::DotLine));
         axis->grid()->setZeroLinePen(QPen(line.color().darker(130), 1));
     }
-    if (legend_)
-        legend_->setFont(font());
-}
-
-void ChartView::connectMouse() {
-    // Set before the plot itself looks at the press.
-    connect(plot_, &QCustomPlot::mousePress, this, [this](QMouseEvent* event) {
-        const bool zoom =
-            event->button() == Qt::LeftButton && !(event->modifiers() & Qt::ShiftModifier);
-        plot_->setSelectionRectMode(zoom ? QCP::srmCustom : QCP::srmNone);
-    });
-    connect(plot_->selectionRect(), &QCPSelectionRect::accepted, this, [this](const QRect& rect) {
-        const QRect drawn = rect.normalized() & plot_->axisRect()->rect();
-        // Less is a click with an unsteady hand.
-        if (drawn.width() < style::unit() || drawn.height() < style::unit())
-            return;
-        plot_->xAxis->setRange(plot_->xAxis->pixelToCoord(drawn.left()),
-                               plot_->xAxis->pixelToCoord(drawn.right()));
-        plot_->yAxis->setRange(plot_->yAxis->pixelToCoord(drawn.bottom()),
-                               plot_->yAxis->pixelToCoord(drawn.top()));
-        plot_->replot();
-    });
-    connect(plot_, &QCustomPlot::mouseDoubleClick, this, [this] { showAll(); });
-    plot_->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(plot_, &QWidget::customContextMenuRequested, this, &ChartView::openMenu);
+    legend_.setFont(font());
 }
 
 void ChartView::sync() {
@@ -183,27 +196,46 @@ void ChartView::sync() {
 }
 
 bool ChartView::nameAxes() {
-    const QString x = captionOf(graph_.xLabels);
-    const QString y = captionOf(graph_.yLabels);
-    if (plot_->xAxis->label() == x && plot_->yAxis->label() == y)
+    const QString x = text(graph_.xTitle());
+    const QString y = text(graph_.yTitle());
+    if (xTitle_ == x && yTitle_ == y)
         return false;
+    xTitle_ = x;
+    yTitle_ = y;
+    // Makes room for them, before it is known how much of them the axes have.
     plot_->xAxis->setLabel(x);
     plot_->yAxis->setLabel(y);
     return true;
 }
 
+void ChartView::fitTitles() {
+    const QRect inner = plot_->axisRect()->rect();
+    const QFontMetrics metrics(plot_->xAxis->labelFont());
+    plot_->xAxis->setLabel(metrics.elidedText(xTitle_, Qt::ElideRight, inner.width()));
+    plot_->yAxis->setLabel(metrics.elidedText(yTitle_, Qt::ElideRight, inner.height()));
+}
+
+void ChartView::fitTicks() {
+    constexpr int most = 5;
+    // What stands beside an axis: the other one's numbers and title, or the legend.
+    const int beside = 9 * style::unit();
+    const int gap = 2 * style::unit();
+    const QFontMetrics metrics(font());
+    const int width = giveTicks(
+        *plot_->xAxis, xTicker_->ticksOf(plot_->xAxis->range(), most), plot_->width() - beside,
+        [&](const QString& label) { return metrics.horizontalAdvance(label) + gap; });
+    giveTicks(*plot_->yAxis, most, plot_->height() - beside,
+              [&](const QString&) { return metrics.height() + style::halfUnit(); });
+    // A number at the very end stands out by half of its width.
+    const int side = gap;
+    plot_->axisRect()->setMinimumMargins({side, side, std::max(side, (width - gap) / 2 + 2), side});
+}
+
 void ChartView::read() {
     plot_->clearPlottables();
-    if (legend_)
-        plot_->plotLayout()->removeAt(0);
-    legend_ = nullptr;
-    plot_->plotLayout()->simplify();
+    legend_.clear();
     for (QCPAxis* far : {plot_->xAxis2, plot_->yAxis2})
         far->setVisible(graph_.border());
-
-    if (std::any_of(graph_.series().begin(), graph_.series().end(),
-                    [](const Graph::Series& series) { return !series.legend.empty(); }))
-        addLegend();
 
     int index = 0;
     bool whole = true;
@@ -214,28 +246,8 @@ void ChartView::read() {
         addSeries(x, series, index++);
     }
     xTicker_->setWholeNumbers(whole);
-    fitLegend();
-    showAll();
-}
-
-void ChartView::addLegend() {
-    // Above the drawing, where it covers no data.
-    legend_ = new QCPLegend;
-    auto* line = new QCPLayoutGrid;
-    plot_->plotLayout()->insertRow(0);
-    plot_->plotLayout()->addElement(0, 0, line);
-    plot_->plotLayout()->setRowStretchFactor(0, 0.001);
-    line->addElement(0, 0, new QCPLayoutElement);
-    line->addElement(0, 1, legend_);
-    line->addElement(0, 2, new QCPLayoutElement);
-    legend_->setLayer(QStringLiteral("legend"));
-    legend_->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-    legend_->setBorderPen(Qt::NoPen);
-    legend_->setBrush(Qt::NoBrush);
-    legend_->setIconSize(4 * style::unit(), style::unit());
-    legend_->setColumnSpacing(2 * style::unit());
-    legend_->setFont(font());
-    legend_->setTextColor(palette().color(QPalette::Text));
+    legend_.fit();
+    scale();
 }
 
 void ChartView::addSeries(const std::vector<double>& x, const Graph::Series& series, int index) {
@@ -276,10 +288,10 @@ void ChartView::addSeries(const std::vector<double>& x, const Graph::Series& ser
     if (series.legend.empty())
         return;
     curve->setName(text(series.legend));
-    legend_->addItem(new QCPPlottableLegendItem(legend_, curve));
+    legend_.add(*curve, text(series.meaning));
 }
 
-void ChartView::showAll() {
+void ChartView::scale() {
     std::optional<QCPRange> all[2];
     for (int i = 0; i < plot_->plottableCount(); ++i) {
         bool keys = false;
@@ -291,32 +303,20 @@ void ChartView::showAll() {
         for (int axis : {0, 1})
             all[axis] = all[axis] ? all[axis]->expanded(found[axis]) : found[axis];
     }
-    plot_->xAxis->setRange(all[0] ? withMargins(*all[0], 0.02) : QCPRange(0, 1));
     QCPRange height = all[1] ? withMargins(*all[1], 0.06) : QCPRange(0, 1);
     // Bars stand on the axis.
     if (graph_.graphKind() == Graph::Kind::area && height.lower < 0 && all[1]->lower >= 0)
         height.lower = 0;
-    plot_->yAxis->setRange(height);
-    plot_->replot();
+    navigation_->setWhole(all[0] ? withMargins(*all[0], 0.02) : QCPRange(0, 1), height);
 }
 
-void ChartView::fitLegend() {
-    if (!legend_)
-        return;
-    int widest = 1;
-    for (int i = 0; i < legend_->itemCount(); ++i)
-        widest = std::max(widest, legend_->item(i)->minimumOuterSizeHint().width());
-    const int each = widest + legend_->columnSpacing();
-    const int columns = std::clamp((plot_->width() - 4 * style::unit()) / each, 1,
-                                   std::max(1, legend_->itemCount()));
-    legend_->setWrap(columns);
-    legend_->setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
-    legend_->setMaximumSize(columns * each + 2 * style::unit(), QWIDGETSIZE_MAX);
+void ChartView::showAll() {
+    navigation_->showAll();
 }
 
 void ChartView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    fitLegend();
+    legend_.fit();
     plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
@@ -324,48 +324,86 @@ void ChartView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
         applyFonts();
-        fitLegend();
+        legend_.fit();
         plot_->replot(QCustomPlot::rpQueuedReplot);
     }
 }
 
+void ChartView::keyPressEvent(QKeyEvent* event) {
+    const bool menuKey = event->key() == Qt::Key_Menu ||
+                         (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (menuKey)
+        openMenu(plot_->rect().center());
+    else if (!navigation_->takeKey(*event))
+        QWidget::keyPressEvent(event);
+}
+
+void ChartView::contextMenuEvent(QContextMenuEvent* event) {
+    // The pointer's one comes from the plot.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        openMenu(plot_->rect().center());
+}
+
 void ChartView::openMenu(const QPoint& position) {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(tr("Copiar imagen"), this, &ChartView::copyImage);
-    menu->addAction(tr("Guardar imagen..."), this, &ChartView::askAndSave);
-    menu->addSeparator();
-    menu->addAction(tr("Ver todo"), this, &ChartView::showAll);
-    menu->popup(plot_->mapToGlobal(position));
+    // Some platforms send a key press and the wish for a menu with it.
+    if (menu_ && menu_->isVisible())
+        return;
+    menu_ = new QMenu(this);
+    menu_->setAttribute(Qt::WA_DeleteOnClose);
+    menu_->addAction(tr("Copiar imagen"), this, &ChartView::copyImage);
+    menu_->addAction(tr("Guardar imagen..."), this,
+                     [this] { askAndSaveChart(*plot_, text(graph_.window().caption), this); });
+    menu_->addSeparator();
+    menu_->addAction(tr("Ver todo"), this, &ChartView::showAll)->setEnabled(navigation_->departs());
+    menu_->popup(plot_->mapToGlobal(position));
 }
 
 void ChartView::copyImage() const {
     QGuiApplication::clipboard()->setPixmap(plot_->toPixmap(plot_->width(), plot_->height(), 2));
 }
 
-bool ChartView::saveImage(const QString& path) const {
-    return saveChartImage(*plot_, path);
+void ChartView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
 }
 
-void ChartView::askAndSave() {
-    words::FileKinds kinds;
-    QFileDialog dialog(this, tr("Guardar imagen"));
-    dialog.setIconProvider(&kinds);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(
-        {tr("Imagen PNG (*.png)"), tr("Documento PDF (*.pdf)"), tr("Dibujo SVG (*.svg)")});
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
-        const auto dot = filter.lastIndexOf(u'.');
-        dialog.setDefaultSuffix(filter.mid(dot + 1, filter.lastIndexOf(u')') - dot - 1));
-    });
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+void ChartView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+void ChartView::paintEvent(QPaintEvent* /*event*/) {
+    if (!hasFocus())
         return;
-    const QString path = dialog.selectedFiles().constFirst();
-    if (!saveImage(path)) {
-        QMessageBox::warning(this, tr("Guardar imagen"),
-                             tr("No se pudo guardar la imagen en %1").arg(path));
-    }
+    QPainter painter(this);
+    // Around the plot, which covers the rest.
+    painter.fillRect(rect(), style::accent());
+}
+
+void ChartView::placeOverlays() {
+    wholeButton_->adjustSize();
+    const QRect inner = plot_->axisRect()->rect();
+    wholeButton_->move(inner.right() - wholeButton_->width() - style::halfUnit(),
+                       inner.top() + style::halfUnit());
+    wholeButton_->setVisible(navigation_->departs());
+}
+
+bool ChartView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::eventFilter(watched, event);
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    // Empty, it takes away the one that is shown.
+    QToolTip::showText(help.globalPos(), explanationAt(help.pos()), plot_);
+    return true;
+}
+
+QString ChartView::explanationAt(const QPoint& position) const {
+    const QRect inner = plot_->axisRect()->rect();
+    if (position.x() < inner.left() && plot_->yAxis->label() != yTitle_)
+        return yTitle_;
+    if (position.y() > inner.bottom() && plot_->xAxis->label() != xTitle_)
+        return xTitle_;
+    return legend_.meaningAt(position);
 }
 
 } // namespace caudalera

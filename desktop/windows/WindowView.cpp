@@ -52,18 +52,25 @@ void WindowView::build() {
 }
 
 void WindowView::orderFocus() {
+    std::vector<QWidget*> stops;
     for (const auto& view : views_.all()) {
-        if (QWidget* target = view->focusTarget())
+        if (QWidget* target = view->focusTarget()) {
             focusChain_.push_back({target, &view->control()});
+            stops.push_back(target);
+        } else if (view->widget().focusPolicy() & Qt::TabFocus) {
+            // The keyboard reaches it, and the model's stays where it is: a chart.
+            stops.push_back(&view->widget());
+        }
         if (const auto* grid = dynamic_cast<GridControlView*>(view.get());
-            grid && grid->view().editor())
+            grid && grid->view().editor()) {
             focusChain_.push_back({grid->view().editor(), grid->grid().editor});
+            stops.push_back(grid->view().editor());
+        }
     }
-    for (std::size_t i = 0; i < focusChain_.size(); ++i) {
-        focusChain_[i].widget->installEventFilter(this);
-        if (i > 0)
-            QWidget::setTabOrder(focusChain_[i - 1].widget, focusChain_[i].widget);
-    }
+    for (const Focusable& each : focusChain_)
+        each.widget->installEventFilter(this);
+    for (std::size_t i = 1; i < stops.size(); ++i)
+        QWidget::setTabOrder(stops[i - 1], stops[i]);
 }
 
 bool WindowView::event(QEvent* event) {

@@ -1,32 +1,12 @@
-#include "desktop/chart/ChartView.h"
-#include "app/registry.h"
-#include "desktop/style/Style.h"
-#include "recording/RecordingPlatform.h"
-#include "shell/window/Program.h"
+#include "tests/desktop/chart/ChartFixture.h"
 
-#include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
-#include <QMenu>
-#include <QSvgRenderer>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
-#include <qcustomplot.h>
+#include <QHelpEvent>
+#include <QToolTip>
 
 using namespace caudalera;
 
 namespace {
-
-Chart threeSeries() {
-    Chart chart;
-    chart.x = std::vector<double>{100, 150, 200, 300};
-    chart.series = {{"P(X)", {0.2, 0.4, 0.6, 0.8}},
-                    {"F(Z) Ordinario", {0.1, 0.3, 0.55, 0.95}},
-                    {"F(Z) Mom Lineal", {0.12, 0.33, 0.5, 0.9}}};
-    return chart;
-}
 
 /// A storm of two intervals as a staircase: two series and as many points again as an interval has
 /// are declared, the points of the first series alone are set.
@@ -39,91 +19,38 @@ Chart storm() {
     return chart;
 }
 
-bool close(const QCPRange& a, const QCPRange& b) {
-    const double slack = 0.02 * b.size();
-    return std::abs(a.lower - b.lower) < slack && std::abs(a.upper - b.upper) < slack;
-}
-
 } // namespace
 
 class ChartViewTest : public QObject {
     Q_OBJECT
 
 private:
-    RecordingPlatform platform;
-    std::unique_ptr<Program> program;
-    std::unique_ptr<Window> window;
-    std::unique_ptr<Graph> graph;
-    std::unique_ptr<QWidget> top;
+    std::unique_ptr<ChartFixture> chart;
     ChartView* view = nullptr;
     QCustomPlot* plot = nullptr;
-    QTemporaryDir folder;
+    Graph* graph = nullptr;
 
-    void show(const Chart& chart) {
-        dibujar(*graph, chart);
-        view->sync();
+    static Chart threeSeries() { return ChartFixture::threeSeries(); }
+    void show(const Chart& drawn) const { chart->show(drawn); }
+    static QStringList labels(const QCPAxis* axis) { return ChartFixture::labels(axis); }
+    void start(const std::string& separator) {
+        chart = std::make_unique<ChartFixture>(separator);
+        view = chart->view;
+        plot = chart->plot;
+        graph = &chart->graph;
     }
-    QPoint at(double shareOfWidth, double shareOfHeight) const {
-        const QRect inner = plot->axisRect()->rect();
-        return {inner.left() + static_cast<int>(shareOfWidth * inner.width()),
-                inner.top() + static_cast<int>(shareOfHeight * inner.height())};
-    }
-    void drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::mousePress(plot, Qt::LeftButton, modifiers, from);
-        QTest::mouseMove(plot, (from + to) / 2);
-        // The offscreen platform keeps no buttons down while it moves.
-        for (const QPoint& step : {(from + to) / 2, to}) {
-            QMouseEvent move(QEvent::MouseMove, step, plot->mapToGlobal(step), Qt::NoButton,
-                             Qt::LeftButton, modifiers);
-            QApplication::sendEvent(plot, &move);
-        }
-        QTest::mouseRelease(plot, Qt::LeftButton, modifiers, to);
-    }
-    void wheel(QPoint position, int steps) {
-        QWheelEvent event(position, plot->mapToGlobal(position), {}, {0, 120 * steps}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+    /// What the tool tip of a point of the drawing says.
+    QString tipAt(QPoint position) const {
+        QHelpEvent event(QEvent::ToolTip, position, plot->mapToGlobal(position));
         QApplication::sendEvent(plot, &event);
-    }
-    /// Chooses an entry of the context menu as the mouse opens it.
-    void chooseInMenu(const QString& entry) {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at(0.5, 0.5),
-                                plot->mapToGlobal(at(0.5, 0.5)));
-        QApplication::sendEvent(plot, &event);
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        for (QAction* action : menu->actions())
-            if (action->text() == entry) {
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-                return;
-            }
-        QFAIL("no such entry");
-    }
-    QStringList labels(const QCPAxis* axis) const {
-        const QVector<QString> found = axis->tickVectorLabels();
-        return {found.begin(), found.end()};
+        // The one before stays for a moment.
+        QTest::qWait(400);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
     }
 
 private slots:
-    void initTestCase() { style::apply(*qApp); }
-
-    void init() {
-        platform.separator = ".";
-        program = std::make_unique<Program>(platform, ventanas());
-        window = std::make_unique<Window>(*program, "frmPrueba", "Prueba");
-        graph = std::make_unique<Graph>(*window, "Graph1");
-        top = std::make_unique<QWidget>();
-        top->resize(700, 460);
-        view = new ChartView(*graph, top.get());
-        view->resize(680, 440);
-        plot = view->findChild<QCustomPlot*>();
-        top->show();
-        QVERIFY(QTest::qWaitForWindowExposed(top.get()));
-        view->sync();
-    }
-    void cleanup() {
-        top.reset();
-        graph.reset();
-    }
+    void init() { start("."); }
+    void cleanup() { chart.reset(); }
 
     void hiddenUntilDrawnAndItsRoomStaysFree() {
         QVERIFY(view->isHidden());
@@ -143,11 +70,11 @@ private slots:
     }
 
     void pointsKeepTheirOrder() {
-        Chart chart;
-        chart.style = 1;
-        chart.x = std::vector<double>{3, 1, 2};
-        chart.series = {{"", {30, 10, 20}}};
-        show(chart);
+        Chart drawn;
+        drawn.style = 1;
+        drawn.x = std::vector<double>{3, 1, 2};
+        drawn.series = {{"", {30, 10, 20}}};
+        show(drawn);
         const auto* curve = qobject_cast<QCPCurve*>(plot->plottable(0));
         QVERIFY(curve);
         QVector<double> x;
@@ -158,9 +85,9 @@ private slots:
     }
 
     void withoutPositionsThePointsStandAtTheirRanks() {
-        Chart chart;
-        chart.series = {{"", {5, 7, 9}}};
-        show(chart);
+        Chart drawn;
+        drawn.series = {{"", {5, 7, 9}}};
+        show(drawn);
         bool found = false;
         QVERIFY(plot->plottable(0)->getKeyRange(found) == QCPRange(1, 3));
         QVERIFY(found);
@@ -176,10 +103,10 @@ private slots:
 
     /// The bed of a river, of which the water line is seen with its vertical banks.
     void whatHangsFromZeroShowsTheLineAtZero() {
-        Chart chart;
-        chart.x = std::vector<double>{0, 0, 2, 5, 6, 6};
-        chart.series = {{"", {0, -0.5, -1, -2, -0.5, 0}}};
-        show(chart);
+        Chart drawn;
+        drawn.x = std::vector<double>{0, 0, 2, 5, 6, 6};
+        drawn.series = {{"", {0, -0.5, -1, -2, -0.5, 0}}};
+        show(drawn);
         const QCPRange height = plot->yAxis->range();
         QVERIFY(height.lower < -2 && height.upper > 0 && height.upper < 0.5);
         QVERIFY(!plot->yAxis->rangeReversed());
@@ -190,9 +117,9 @@ private slots:
     }
 
     void equalValuesStillGetARange() {
-        Chart chart;
-        chart.series = {{"", {4, 4, 4}}};
-        show(chart);
+        Chart drawn;
+        drawn.series = {{"", {4, 4, 4}}};
+        show(drawn);
         QVERIFY(plot->yAxis->range().lower < 4 && plot->yAxis->range().upper > 4);
     }
 
@@ -230,9 +157,9 @@ private slots:
     }
 
     void axesCarryTheVisibleOnesOfTheirLabels() {
-        Label months(*window, "lblMeses", "Eje de Meses: 0 = Ene, 1 = Feb, ... ,11= Dic");
-        Label function(*window, "lblFuncion", "Fx");
-        Label share(*window, "lblPorcentaje", "(%)");
+        Label months(chart->window, "lblMeses", "Eje de Meses: 0 = Ene, 1 = Feb, ... ,11= Dic");
+        Label function(chart->window, "lblFuncion", "Fx");
+        Label share(chart->window, "lblPorcentaje", "(%)");
         graph->xLabels = {&months};
         graph->yLabels = {&function, &share};
         show(threeSeries());
@@ -273,14 +200,10 @@ private slots:
         QFETCH(QList<double>, y);
         QFETCH(QString, separator);
         QFETCH(QString, label);
-        platform.separator = separator.toStdString();
-        delete view;
-        view = new ChartView(*graph, top.get());
-        view->resize(680, 440);
-        plot = view->findChild<QCustomPlot*>();
-        Chart chart;
-        chart.series = {{"", {y[0], y[1]}}};
-        show(chart);
+        start(separator.toStdString());
+        Chart drawn;
+        drawn.series = {{"", {y[0], y[1]}}};
+        show(drawn);
         plot->replot();
         const QStringList found = labels(plot->yAxis);
         QVERIFY2(found.contains(label), qPrintable(found.join(u' ')));
@@ -288,10 +211,10 @@ private slots:
     }
 
     void monthsGetNoTicksBetweenThem() {
-        Chart chart;
-        chart.x = std::vector<double>{0, 1, 2, 3};
-        chart.series = {{"", {1, 2, 4, 8}}};
-        show(chart);
+        Chart drawn;
+        drawn.x = std::vector<double>{0, 1, 2, 3};
+        drawn.series = {{"", {1, 2, 4, 8}}};
+        show(drawn);
         plot->replot();
         QCOMPARE(labels(plot->xAxis), (QStringList{"0", "1", "2", "3"}));
     }
@@ -342,107 +265,95 @@ private slots:
         QCOMPARE(plot->plottableCount(), 2);
     }
 
-    void theWheelZoomsAtThePointer() {
-        show(threeSeries());
-        const QCPRange before = plot->xAxis->range();
-        const double pointed = plot->xAxis->pixelToCoord(at(0.25, 0.5).x());
-        wheel(at(0.25, 0.5), 2);
-        const QCPRange after = plot->xAxis->range();
-        QVERIFY(after.size() < before.size());
-        QVERIFY(after.contains(pointed));
-        QVERIFY(std::abs(plot->xAxis->pixelToCoord(at(0.25, 0.5).x()) - pointed) <
-                before.size() / 100);
-    }
-
-    void aDragZoomsIntoItsRectangleAndADoubleClickGoesBack() {
-        show(threeSeries());
-        const QCPRange wholeX = plot->xAxis->range();
-        const QCPRange wholeY = plot->yAxis->range();
-        const QCPRange wantedX(plot->xAxis->pixelToCoord(at(0.2, 0).x()),
-                               plot->xAxis->pixelToCoord(at(0.6, 0).x()));
-        const QCPRange wantedY(plot->yAxis->pixelToCoord(at(0, 0.7).y()),
-                               plot->yAxis->pixelToCoord(at(0, 0.3).y()));
-        drag(at(0.2, 0.3), at(0.6, 0.7));
-        QVERIFY(close(plot->xAxis->range(), wantedX));
-        QVERIFY(close(plot->yAxis->range(), wantedY));
-        QTest::mouseDClick(plot, Qt::LeftButton, {}, at(0.5, 0.5));
-        QVERIFY(plot->xAxis->range() == wholeX);
-        QVERIFY(plot->yAxis->range() == wholeY);
-    }
-
-    void anUnsteadyClickZoomsNothing() {
-        show(threeSeries());
-        const QCPRange before = plot->xAxis->range();
-        drag(at(0.5, 0.5), at(0.5, 0.5) + QPoint(3, 2));
-        QVERIFY(plot->xAxis->range() == before);
-    }
-
-    void aDragWithShiftMovesTheDrawing() {
-        show(threeSeries());
-        const QCPRange before = plot->xAxis->range();
-        drag(at(0.6, 0.5), at(0.2, 0.5), Qt::ShiftModifier);
-        QVERIFY(plot->xAxis->range().lower > before.lower);
-        QVERIFY(std::abs(plot->xAxis->range().size() - before.size()) < 1e-6 * before.size());
-    }
-
-    void aNewDrawingShowsEverythingAgain() {
-        show(threeSeries());
-        const QCPRange whole = plot->xAxis->range();
-        wheel(at(0.5, 0.5), 3);
-        show(threeSeries());
-        QVERIFY(plot->xAxis->range() == whole);
-        wheel(at(0.5, 0.5), 3);
-        chooseInMenu(QStringLiteral("Ver todo"));
-        QVERIFY(plot->xAxis->range() == whole);
-    }
-
     void theMenuCopiesTheImage() {
         show(threeSeries());
         QGuiApplication::clipboard()->clear();
-        chooseInMenu(QStringLiteral("Copiar imagen"));
+        chooseInMenu(*plot, QStringLiteral("Copiar imagen"));
         const QImage image = QGuiApplication::clipboard()->image();
         QVERIFY(image.width() >= plot->width());
     }
 
-    void theMenuSavesTheImage_data() {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QString>("suffix");
-        QTest::newRow("png") << "Imagen PNG (*.png)"
-                             << "png";
-        QTest::newRow("pdf") << "Documento PDF (*.pdf)"
-                             << "pdf";
-        QTest::newRow("svg") << "Dibujo SVG (*.svg)"
-                             << "svg";
-    }
-    void theMenuSavesTheImage() {
-        QFETCH(QString, filter);
-        QFETCH(QString, suffix);
+    void titlesOfTheDrawingStandAtItsAxes() {
+        Chart drawn = threeSeries();
+        drawn.xTitle = "Probabilidad Q >= (%)";
+        drawn.yTitle = "Q considerado (m3/s)";
+        show(drawn);
+        QCOMPARE(plot->xAxis->label(), QStringLiteral("Probabilidad Q >= (%)"));
+        QCOMPARE(plot->yAxis->label(), QStringLiteral("Q considerado (m3/s)"));
+        graph->clear();
+        view->sync();
         show(threeSeries());
-        const QString path = folder.filePath(QStringLiteral("curva.") + suffix);
-        QTimer::singleShot(0, this, [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
-            dialog->selectNameFilter(filter);
-            emit dialog->filterSelected(filter);
-            // The filter gives the suffix.
-            dialog->selectFile(folder.filePath(QStringLiteral("curva")));
-            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
-        });
-        chooseInMenu(QStringLiteral("Guardar imagen..."));
-        QFile file(path);
-        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(path));
-        if (suffix == QLatin1String("png"))
-            QVERIFY(!QImage(path).isNull());
-        else if (suffix == QLatin1String("pdf"))
-            QVERIFY(file.readAll().startsWith("%PDF"));
-        else
-            QVERIFY(QSvgRenderer(path).isValid());
+        QCOMPARE(plot->xAxis->label(), QString());
     }
 
-    void anImageThatCannotBeWrittenIsTold() {
+    void aTitleThatIsTooLongIsCutAndToldWhole() {
+        Chart drawn = threeSeries();
+        drawn.yTitle = std::string(200, 'm');
+        show(drawn);
+        const QString label = plot->yAxis->label();
+        QVERIFY(label.endsWith(u'\u2026'));
+        QVERIFY(view->fontMetrics().horizontalAdvance(label) <= plot->axisRect()->height());
+        QCOMPARE(tipAt({8, plot->axisRect()->rect().center().y()}),
+                 QString::fromStdString(drawn.yTitle));
+        // A larger drawing has more of it, and a short one needs no explanation.
+        chart->top.resize(700, 760);
+        view->resize(680, 740);
+        QTRY_VERIFY(plot->yAxis->label().size() > label.size());
+        drawn.yTitle = "Q";
+        show(drawn);
+        QCOMPARE(tipAt({8, plot->axisRect()->rect().center().y()}), QString());
+    }
+
+    void theLegendTellsWhatItStandsFor() {
         show(threeSeries());
-        for (const char* name : {"no/hay/a.png", "no/hay/a.pdf", "no/hay/a.svg"})
-            QVERIFY(!view->saveImage(folder.filePath(QLatin1String(name))));
+        QCPLegend* legend = nullptr;
+        for (QCPLegend* each : plot->findChildren<QCPLegend*>())
+            if (each != plot->legend)
+                legend = each;
+        QVERIFY(legend);
+        QCOMPARE(tipAt(legend->item(0)->rect().center()),
+                 QStringLiteral("Probabilidad experimental"));
+        QCOMPARE(tipAt(legend->item(1)->rect().center()),
+                 QStringLiteral("Con parámetros ordinarios"));
+        QCOMPARE(tipAt(legend->item(2)->rect().center()), QString());
+        QCOMPARE(tipAt(chart->at(0.5, 0.5)), QString());
+        // The names themselves stay as they are.
+        auto* item = qobject_cast<QCPPlottableLegendItem*>(legend->item(0));
+        QVERIFY(item);
+        QCOMPARE(item->plottable()->name(), QStringLiteral("P(X)"));
+        show(Chart(threeSeries()));
+        QCOMPARE(tipAt(chart->at(0.5, 0.5)), QString());
+    }
+
+    void theMonthsOfAYearEachHaveTheirNumber() {
+        Chart drawn;
+        drawn.x.emplace();
+        drawn.series.emplace_back();
+        for (int month = 0; month < 12; ++month) {
+            drawn.x->push_back(month);
+            drawn.series[0].y.push_back(month);
+        }
+        show(drawn);
+        QStringList months;
+        for (int month = 0; month < 12; ++month)
+            months.append(QString::number(month));
+        QCOMPARE(labels(plot->xAxis), months);
+    }
+
+    void numbersOfTheAxesDoNotRunIntoOneAnother() {
+        Chart drawn;
+        drawn.x = std::vector<double>{500'000'000, 500'100'000};
+        drawn.series = {{"", {0, 1}}};
+        show(drawn);
+        view->resize(280, 180);
+        QApplication::processEvents();
+        plot->replot();
+        const QVector<double> ticks = plot->xAxis->tickVector();
+        QVERIFY(ticks.size() >= 2);
+        const double apart =
+            plot->xAxis->coordToPixel(ticks[1]) - plot->xAxis->coordToPixel(ticks[0]);
+        for (const QString& label : labels(plot->xAxis))
+            QVERIFY2(view->fontMetrics().horizontalAdvance(label) < apart, qPrintable(label));
     }
 };
 
