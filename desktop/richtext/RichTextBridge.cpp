@@ -1,7 +1,9 @@
 #include "desktop/richtext/RichTextBridge.h"
 
 #include "desktop/richtext/QtText.h"
+#include "desktop/style/LongWork.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -22,6 +24,8 @@ enum BlockProperty { leftTwips = QTextFormat::UserProperty + 1, rightTwips };
 constexpr double twipsPerInch = 1440;
 /// Characters of the widest rules and tables of the reports, with the indents on both sides.
 constexpr int widestLine = 156;
+/// Paragraphs between two signs that the work goes on; some 50 ms to lay out.
+constexpr int batch = 2000;
 
 double pixels(int twips) {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -248,9 +252,27 @@ int update(QTextDocument& document, const RichText& text) {
         if (i > first)
             cursor.insertBlock();
         insert(cursor, paragraph(i));
+        if ((i - first + 1) % batch == 0) {
+            // What was inserted is laid out when its step ends, all at once. Joined to the former
+            // one, the next batch belongs to the same step of the history.
+            cursor.endEditBlock();
+            LongWork::step(i - first, wanted - same - first);
+            cursor.joinPreviousEditBlock();
+        }
     }
     cursor.endEditBlock();
     return first;
+}
+
+void layOut(const QTextDocument& document) {
+    const QAbstractTextDocumentLayout& layout = *document.documentLayout();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockNumber() % batch == 0) {
+            static_cast<void>(layout.blockBoundingRect(block));
+            LongWork::step(block.blockNumber(), document.blockCount());
+        }
+    }
+    static_cast<void>(layout.documentSize());
 }
 
 } // namespace caudalera::richtext

@@ -31,6 +31,9 @@ void prepare(QTextDocument& document, const QFont& font);
 /// that was replaced, -1 if none was.
 int update(QTextDocument& document, const RichText& text);
 
+/// Lays all of a document out, which the toolkit otherwise does while it is idle.
+void layOut(const QTextDocument& document);
+
 /// A block as a paragraph of the model.
 Paragraph paragraphOf(const QTextBlock& block);
 std::vector<Paragraph> paragraphsOf(const QTextDocument& document);

@@ -4,6 +4,7 @@
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/session/Copies.h"
 #include "desktop/session/Session.h"
+#include "desktop/style/LongWork.h"
 #include "desktop/style/Title.h"
 #include "desktop/words/FileKinds.h"
 #include "shell/numbers/RuntimeFailure.h"
@@ -64,6 +65,11 @@ QString mapped(const QString& word, const QString& fixedDirectory) {
         return word;
     return QDir(fixedDirectory)
         .filePath(word.mid(prefix.size()).replace(QLatin1Char('\\'), QLatin1Char('/')));
+}
+
+bool accepted(QDialog& dialog) {
+    const LongWork::Pause pause;
+    return dialog.exec() == QDialog::Accepted;
 }
 
 } // namespace
@@ -133,6 +139,7 @@ void DesktopPlatform::showBox(const QString& text, const QString& title, Icon ic
     }
     box.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
     style::makeRoomForTitle(box);
+    const LongWork::Pause pause;
     box.exec();
 }
 
@@ -162,7 +169,7 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
         box.setDirectory(last.absolutePath());
         box.selectFile(last.fileName());
     }
-    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty())
+    if (!accepted(box) || box.selectedFiles().isEmpty())
         return std::nullopt;
     return QDir::toNativeSeparators(box.selectedFiles().constFirst()).toStdString();
 }
@@ -178,7 +185,7 @@ bool DesktopPlatform::showPrintDialog(const PrintDialog& dialog) {
     box.setOption(QAbstractPrintDialog::PrintSelection, dialog.selection);
     if (dialog.selection)
         box.setPrintRange(QAbstractPrintDialog::Selection);
-    if (box.exec() != QDialog::Accepted)
+    if (!accepted(box))
         return false;
     printer_ = std::move(printer);
     return true;
@@ -197,7 +204,7 @@ void DesktopPlatform::printWindow(const Window& window) {
 void DesktopPlatform::printDocument(const frmDocumento& document, bool selectionOnly) {
     if (!printer_)
         return;
-
+    LongWork::announce();
     const RichText& text = document.rtfText;
     richtext::print(selectionOnly ? text.selection() : text, *printer_);
 }
@@ -208,6 +215,12 @@ std::string DesktopPlatform::clipboardText() {
 
 void DesktopPlatform::setClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(toQString(text));
+}
+
+std::string DesktopPlatform::decimalSeparator() {
+    // The commands that read and write many numbers tell on this way that they go on.
+    LongWork::step();
+    return decimalSeparator_;
 }
 
 std::optional<std::string> DesktopPlatform::setting(const std::string& key) {

@@ -41,7 +41,7 @@ public:
     std::filesystem::path fixedDirectory() override;
     FixedFont reportFont() override;
     /// As it was when the program started: every number that is shown asks for it.
-    std::string decimalSeparator() override { return decimalSeparator_; }
+    std::string decimalSeparator() override;
     /// A failure is told with where copies of all that was open were put.
     void endProgram(const Ending& ending) override;
     /// Where those go, each in a folder of its own; among the user's documents unless said

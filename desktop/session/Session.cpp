@@ -1,5 +1,6 @@
 #include "desktop/session/Session.h"
 
+#include "desktop/style/LongWork.h"
 #include "shell/window/Nesting.h"
 
 #include <QApplication>
@@ -62,6 +63,7 @@ void Session::start() {
 void Session::act(const std::function<void()>& event) {
     if (busy())
         return;
+    const LongWork work;
     try {
         {
             const Nesting nesting(depth_);

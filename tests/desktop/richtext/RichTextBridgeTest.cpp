@@ -1,6 +1,7 @@
 #include "desktop/richtext/RichTextBridge.h"
 
 #include "desktop/richtext/QtText.h"
+#include "desktop/style/LongWork.h"
 
 #include <QBuffer>
 #include <QFontInfo>
@@ -93,6 +94,41 @@ private slots:
         richtext::update(document, lines({"a", "x", "y", "z", "c"}));
         document.undo();
         QVERIFY(richtext::paragraphsOf(document) == before);
+    }
+
+    void aLongUpdateIsOneStepToo() {
+        QTextDocument document;
+        document.documentLayout();
+        richtext::update(document, lines({"a", "b"}));
+        std::vector<std::string> texts(5001, "x");
+        texts.front() = "a";
+        texts.back() = "b";
+        const RichText text = lines(texts);
+        richtext::update(document, text);
+        QVERIFY(richtext::paragraphsOf(document) == text.paragraphs());
+        document.undo();
+        QCOMPARE(document.toPlainText(), QStringLiteral("a\nb"));
+        document.redo();
+        QVERIFY(richtext::paragraphsOf(document) == text.paragraphs());
+    }
+
+    void longUpdatesAndLayoutsTellThatTheyGoOn() {
+        QTextDocument document;
+        document.documentLayout();
+        document.setTextWidth(800);
+        const LongWork work;
+        const auto tells = [](const std::function<void()>& act) {
+            // Past the half second, the first sign makes the pointer busy.
+            QTest::qSleep(550);
+            act();
+            const bool busy = QGuiApplication::overrideCursor() != nullptr;
+            const LongWork::Pause startsAnew;
+            return busy;
+        };
+        const RichText text = lines(std::vector<std::string>(2001, "x"));
+        QVERIFY(tells([&] { richtext::update(document, text); }));
+        QVERIFY(tells([&] { richtext::layOut(document); }));
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     /// Any text after any other: 400 random steps over texts of up to six paragraphs with few
