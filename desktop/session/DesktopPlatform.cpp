@@ -2,6 +2,7 @@
 
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
+#include "desktop/richtext/RichTextClipboard.h"
 #include "desktop/session/Copies.h"
 #include "desktop/session/Session.h"
 #include "desktop/style/LongWork.h"
@@ -215,6 +216,15 @@ std::string DesktopPlatform::clipboardText() {
 
 void DesktopPlatform::setClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(toQString(text));
+}
+
+std::string DesktopPlatform::clipboardRichText() {
+    const QMimeData* const held = QGuiApplication::clipboard()->mimeData();
+    return held ? richtext::fromClipboard(*held) : std::string();
+}
+
+void DesktopPlatform::setClipboardRichText(const std::string& rtf) {
+    QGuiApplication::clipboard()->setMimeData(richtext::toClipboard(rtf).release());
 }
 
 std::string DesktopPlatform::decimalSeparator() {

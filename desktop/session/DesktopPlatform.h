@@ -29,6 +29,9 @@ public:
 
     std::string clipboardText() override;
     void setClipboardText(const std::string& text) override;
+    /// Rich text goes out and comes in under the names that other programs know it by.
+    std::string clipboardRichText() override;
+    void setClipboardRichText(const std::string& rtf) override;
 
     std::optional<std::string> setting(const std::string& key) override;
     void setSetting(const std::string& key, const std::string& value) override;

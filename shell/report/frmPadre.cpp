@@ -127,7 +127,7 @@ void frmPadre::imprimir() {
 
 void frmPadre::copiar() {
     if (active()) {
-        platform().setClipboardText(
+        platform().setClipboardRichText(
             writeRtf(active()->rtfText.selection(), platform().reportFont()));
     }
 }
@@ -142,7 +142,7 @@ void frmPadre::cortar() {
 void frmPadre::pegar() {
     if (!active())
         return;
-    const std::string source = platform().clipboardText();
+    const std::string source = platform().clipboardRichText();
     if (looksLikeRtf(source)) {
         active()->rtfText.setSelRich(readRtf(source));
     } else {

@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QInputMethodEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -175,10 +176,41 @@ private slots:
         on->compose("Título", 1);
         key(Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(on->view(), Qt::Key_C, Qt::ControlModifier);
-        const std::string copied = QGuiApplication::clipboard()->text().toStdString();
-        QVERIFY(copied.starts_with("{\\rtf1"));
-        QCOMPARE(QString::fromStdString(readRtf(copied).text()), on->plainText());
-        QVERIFY(readRtf(copied).paragraphs()[0].format.alignment == Alignment::center);
+        const QMimeData& copied = *QGuiApplication::clipboard()->mimeData();
+        for (const char* name : {"text/rtf", "application/rtf"}) {
+            const RichText text = readRtf(copied.data(QLatin1String(name)).toStdString());
+            QCOMPARE(QString::fromStdString(text.text()), on->plainText());
+            QVERIFY(text.paragraphs()[0].format.alignment == Alignment::center);
+        }
+        QVERIFY(copied.html().contains("Resultados"));
+        QCOMPARE(copied.text(), on->plainText());
+    }
+
+    void pastingTakesTheRichestForm() {
+        const auto pasted = [this](QMimeData* data) {
+            QGuiApplication::clipboard()->setMimeData(data);
+            key(Qt::Key_A, Qt::ControlModifier);
+            key(Qt::Key_V, Qt::ControlModifier);
+            return on->plainText();
+        };
+        auto* all = new QMimeData;
+        all->setData("text/rtf", "{\\rtf1 {\\b de} RTF}");
+        all->setHtml("<b>de</b> HTML");
+        all->setText("llano");
+        QCOMPARE(pasted(all), QStringLiteral("de RTF"));
+        QVERIFY(on->text().paragraphs()[0].runs[0].format.bold);
+        auto* noRtf = new QMimeData;
+        noRtf->setData("text/rtf", "no lo es");
+        noRtf->setHtml("<b>de</b> HTML");
+        noRtf->setText("llano");
+        QCOMPARE(pasted(noRtf), QStringLiteral("de HTML"));
+        QVERIFY(on->text().paragraphs()[0].runs[0].format.bold);
+        auto* source = new QMimeData;
+        source->setHtml("<p>{\\rtf1 fuente}</p>");
+        source->setText("{\\rtf1 {\\i fuente}}");
+        QCOMPARE(pasted(source), QStringLiteral("fuente"));
+        QVERIFY(on->text().paragraphs()[0].runs[0].format.italic);
+        verifyInLine();
     }
 
     void cutAndPasteAreTheModels() {
