@@ -1,11 +1,11 @@
 #include "desktop/report/DocumentFrame.h"
 
-#include "desktop/report/DocumentView.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/style/Style.h"
 #include "shell/report/frmDocumento.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -20,11 +20,20 @@ constexpr int inset = 100;
 
 DocumentFrame::DocumentFrame(frmDocumento& document, DocumentView* view,
                              std::function<void()> onClose)
-    : document_(document), view_(view), onClose_(std::move(onClose)) {
+    : document_(document), view_(view), notice_(new QLabel), onClose_(std::move(onClose)) {
     auto* ground = new QWidget;
     auto* layout = new QVBoxLayout(ground);
     const int margin = inset * logicalDpiX() / 1440;
     layout->setContentsMargins(margin, margin, margin, margin);
+    notice_->setObjectName(QStringLiteral("notice"));
+    notice_->setWordWrap(true);
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setMargin(style::halfUnit());
+    QPalette palette = notice_->palette();
+    palette.setColor(QPalette::Window, style::paleAccent());
+    notice_->setPalette(palette);
+    notice_->setAutoFillBackground(true);
+    layout->addWidget(notice_);
     layout->addWidget(view);
     ground->setFocusProxy(view);
     setWidget(ground);
@@ -36,14 +45,22 @@ DocumentFrame::DocumentFrame(frmDocumento& document, DocumentView* view,
     close->setContext(Qt::WidgetWithChildrenShortcut);
     connect(close, &QShortcut::activated, this, &QWidget::close);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    sync();
+    sync(DocumentView::Following::report);
 }
 
-void DocumentFrame::sync() {
+void DocumentFrame::sync(DocumentView::Following following) {
     const QString caption = toQString(document_.caption);
     if (windowTitle() != caption)
         setWindowTitle(caption);
-    view_->sync();
+    view_->sync(following);
+    notice_->setVisible(!view_->shownWhole());
+    if (view_->shownWhole())
+        return;
+    notice_->setText(
+        QStringLiteral("Este documento es demasiado largo para mostrarlo entero: %1. Se "
+                       "ve su comienzo y aquí no se puede editar ni imprimir; «Guardar» "
+                       "lo escribe completo.")
+            .arg(view_->excess()));
 }
 
 void DocumentFrame::closeEvent(QCloseEvent* event) {

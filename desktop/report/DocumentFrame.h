@@ -1,21 +1,23 @@
 #pragma once
 
+#include "desktop/report/DocumentView.h"
+
 #include <QMdiSubWindow>
 #include <functional>
 
+class QLabel;
+
 namespace caudalera {
 
-class DocumentView;
-class frmDocumento;
-
-/// The window of a document inside the report window. Closing it is the model's affair.
+/// The window of a document inside the report window. Closing it is the model's affair. Above a
+/// text that is not shown whole stands a notice.
 class DocumentFrame : public QMdiSubWindow {
 public:
     DocumentFrame(frmDocumento& document, DocumentView* view, std::function<void()> onClose);
 
     const frmDocumento* document() const { return &document_; }
     DocumentView& view() const { return *view_; }
-    void sync();
+    void sync(DocumentView::Following following);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -23,6 +25,7 @@ protected:
 private:
     frmDocumento& document_;
     DocumentView* view_;
+    QLabel* notice_;
     std::function<void()> onClose_;
 };
 

@@ -1,5 +1,6 @@
 #include "desktop/report/DocumentView.h"
 
+#include "desktop/richtext/LayoutLimits.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/session/Session.h"
 #include "shell/report/frmPadre.h"
@@ -7,11 +8,13 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextFrame>
 #include <algorithm>
+#include <utility>
 
 namespace caudalera {
 
@@ -43,10 +46,18 @@ int unitOf(const QTextDocument& document, int character) {
 
 } // namespace
 
+Message refusedPaste(const QString& excess) {
+    const QString text =
+        QStringLiteral("Lo que se pega no cabe: el documento quedaría demasiado largo (%1).\n\n"
+                       "No se ha pegado nada.")
+            .arg(excess);
+    return {text.toStdString(), "Pegar", Icon::information};
+}
+
 DocumentView::DocumentView(Session& session, frmPadre& padre, frmDocumento& document,
-                           QMenu& editMenu, QWidget* parent)
-    : QTextEdit(parent), session_(session), padre_(padre), document_(document),
-      editMenu_(editMenu) {
+                           QMenu& editMenu, Command command, QWidget* parent)
+    : QTextEdit(parent), session_(session), padre_(padre), document_(document), editMenu_(editMenu),
+      command_(std::move(command)) {
     // What is dropped or pasted by the mouse comes in as plain text.
     setAcceptRichText(false);
     setFont(richtext::reportFont());
@@ -60,7 +71,7 @@ DocumentView::DocumentView(Session& session, frmPadre& padre, frmDocumento& docu
     connect(this, &QTextEdit::textChanged, this, &DocumentView::tellModel);
     connect(this, &QTextEdit::cursorPositionChanged, this, &DocumentView::tellModel);
     connect(this, &QTextEdit::selectionChanged, this, &DocumentView::tellModel);
-    sync();
+    sync(Following::report);
     // The user's steps can be undone, not the document as it was found.
     setUndoRedoEnabled(true);
 }
@@ -71,21 +82,48 @@ void DocumentView::fitMargins() {
     document()->rootFrame()->setFrameFormat(format);
 }
 
-void DocumentView::sync() {
+void DocumentView::sync(Following following) {
     const RichText& text = document_.rtfText;
     if (revision_ == text.revision())
         return;
     const QScopedValueRollback<bool> applying(applying_, true);
-    const int first = richtext::update(*document(), text);
-    astral_ = static_cast<int>(text.length()) != document()->characterCount() - 1;
-    showSelection();
+    // Where the model's caret stood, a report begins.
+    const int caret = textCursor().selectionStart();
+    excess_ = richtext::excess(text);
+    setReadOnly(!shownWhole());
+    const int first = richtext::update(*document(), shownWhole() ? text : richtext::showable(text));
+    if (shownWhole()) {
+        astral_ = static_cast<int>(text.length()) != document()->characterCount() - 1;
+        showSelection();
+    }
     revision_ = text.revision();
-    if (first < 0 || hasFocus())
+    if (first < 0)
         return;
-    // A report that was composed from its own window is read from its beginning.
-    const QRect begin = cursorRect(QTextCursor(document()->findBlockByNumber(first)));
-    if (begin.top() < 0)
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + begin.top());
+    if (following == Following::report) {
+        showFrom(caret);
+    } else {
+        ensureCursorVisible();
+    }
+}
+
+void DocumentView::showFrom(int position) {
+    // How far the view can scroll is known when all of it has its place.
+    if (isVisible())
+        richtext::layOut(*document());
+    const QTextBlock block = document()->findBlock(position);
+    QScrollBar& bar = *verticalScrollBar();
+    // The first one with the margin above it.
+    if (!block.isValid() || block == document()->begin()) {
+        bar.setValue(0);
+    } else {
+        bar.setValue(bar.value() + cursorRect(QTextCursor(block)).top());
+    }
+}
+
+QString DocumentView::excessWith(const RichText& inserted) const {
+    RichText text = document_.rtfText;
+    text.setSelRich(inserted);
+    return richtext::excess(text);
 }
 
 void DocumentView::showSelection() {
@@ -113,7 +151,7 @@ void DocumentView::noteChange(int position, int removed, int added) {
 }
 
 void DocumentView::tellModel() {
-    if (applying_ || session_.busy())
+    if (applying_ || session_.busy() || !shownWhole())
         return;
     const RichText& text = document_.rtfText;
     const QTextCursor cursor = textCursor();
@@ -183,17 +221,27 @@ void DocumentView::keyPressEvent(QKeyEvent* event) {
         if (!event->matches(keys))
             continue;
         event->accept();
-        session_.act([this, entry = entry] { session_.program().click(*entry); });
-        ensureCursorVisible();
+        command_(*entry);
         return;
     }
     if (event->matches(QKeySequence::InsertLineSeparator)) {
         // The model knows paragraphs alone.
-        textCursor().insertBlock();
+        if (!isReadOnly())
+            textCursor().insertBlock();
         ensureCursorVisible();
         return;
     }
     QTextEdit::keyPressEvent(event);
+}
+
+void DocumentView::insertFromMimeData(const QMimeData* source) {
+    RichText inserted;
+    inserted.setSelText(source->text().toStdString());
+    if (const QString excess = excessWith(inserted); !excess.isEmpty()) {
+        session_.act([&] { session_.platform().showMessage(refusedPaste(excess)); });
+        return;
+    }
+    QTextEdit::insertFromMimeData(source);
 }
 
 void DocumentView::contextMenuEvent(QContextMenuEvent* event) {

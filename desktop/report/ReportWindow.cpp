@@ -1,9 +1,11 @@
 #include "desktop/report/ReportWindow.h"
 
 #include "desktop/report/DocumentFrame.h"
+#include "desktop/report/DocumentStrip.h"
 #include "desktop/report/DocumentView.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/session/Session.h"
+#include "desktop/style/LongWork.h"
 #include "desktop/style/Style.h"
 #include "shell/report/frmPadre.h"
 
@@ -12,8 +14,10 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace caudalera {
@@ -21,6 +25,8 @@ namespace caudalera {
 namespace {
 
 constexpr double twipsPerInch = 1440;
+/// Bytes that take some time to be read.
+constexpr std::size_t longSource = 1 << 20;
 
 /// The keys that such commands have everywhere; empty for the others.
 QList<QKeySequence> shortcutsOf(const frmPadre& padre, const MenuEntry& entry) {
@@ -54,11 +60,19 @@ QRect onScreen(QRect rect) {
 } // namespace
 
 ReportWindow::ReportWindow(Session& session, frmPadre& padre)
-    : session_(session), padre_(padre), area_(new QMdiArea(this)) {
+    : session_(session), padre_(padre), area_(new QMdiArea),
+      strip_(
+          new DocumentStrip(padre, [this](const frmDocumento& document) { activate(document); })) {
     setObjectName(toQString(padre.name()));
     setWindowTitle(toQString(padre.caption));
     setWindowIcon(style::icon(QStringLiteral("app")));
-    setCentralWidget(area_);
+    auto* ground = new QWidget;
+    auto* column = new QVBoxLayout(ground);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(area_);
+    column->addWidget(strip_);
+    setCentralWidget(ground);
     area_->setBackground(palette().mid());
     buildMenu();
     for (std::size_t i = 0; i < padre_.sbStatusBar.panels.size(); ++i) {
@@ -67,14 +81,8 @@ ReportWindow::ReportWindow(Session& session, frmPadre& padre)
     }
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         const auto* frame = static_cast<DocumentFrame*>(window);
-        if (!frame || session_.busy() || padre_.active() == frame->document())
-            return;
-        session_.act([&] {
-            for (const auto& document : padre_.documents()) {
-                if (document.get() == frame->document())
-                    padre_.activate(*document);
-            }
-        });
+        if (frame && padre_.active() != frame->document())
+            activate(*frame->document());
     });
     place();
     sync();
@@ -109,9 +117,69 @@ QMenu* ReportWindow::menuOf(const MenuEntry& title) {
     return menu;
 }
 
+void ReportWindow::activate(const frmDocumento& chosen) {
+    session_.act([&] {
+        for (const auto& document : padre_.documents()) {
+            if (document.get() == &chosen) {
+                padre_.activate(*document);
+                return;
+            }
+        }
+    });
+}
+
 void ReportWindow::click(MenuEntry& entry) {
     recordPlace();
-    session_.act([&] { session_.program().click(entry); });
+    const LongWork work;
+    const DocumentFrame* const frame = frameOf(padre_.active());
+    if (frame && refused(entry, frame->view()))
+        return;
+    session_.platform().takeChosenFile();
+    {
+        const QScopedValueRollback<bool> commanding(commanding_, true);
+        session_.act([&] { session_.program().click(entry); });
+    }
+    if (!session_.program().ended() && padre_.loaded())
+        confirmSaving(entry);
+}
+
+bool ReportWindow::refused(const MenuEntry& entry, DocumentView& view) {
+    const auto tell = [this](const Message& message) {
+        session_.act([&] { session_.platform().showMessage(message); });
+        return true;
+    };
+    if (view.shownWhole()) {
+        if (&entry != &padre_.mnuEditPaste)
+            return false;
+        const std::string source = session_.platform().clipboardRichText();
+        if (source.size() > longSource)
+            LongWork::announce();
+        const QString excess = view.excessWith(readRtf(source));
+        return !excess.isEmpty() && tell(refusedPaste(excess));
+    }
+    if (&entry == &padre_.mnuEditCopy) {
+        // The selection is not the model's.
+        view.copy();
+        return true;
+    }
+    if (&entry == &padre_.mnuEditCut || &entry == &padre_.mnuEditPaste ||
+        &entry == &padre_.mnuFilePrint) {
+        const QString text =
+            QStringLiteral("Este documento es demasiado largo para editarlo o imprimirlo aquí: %1.")
+                .arg(view.excess());
+        return tell({text.toStdString(), {}, Icon::information});
+    }
+    return false;
+}
+
+void ReportWindow::confirmSaving(const MenuEntry& entry) {
+    const auto chosen = session_.platform().takeChosenFile();
+    if (&entry != &padre_.mnuFileSave && &entry != &padre_.mnuFileSaveAs)
+        return;
+    // Without a dialog the document went to its own file.
+    const std::string path = chosen.value_or(padre_.active()->caption);
+    if (!path.empty())
+        statusBar()->showMessage(QStringLiteral("Guardado: %1").arg(toQString(path)));
 }
 
 void ReportWindow::place() {
@@ -125,6 +193,8 @@ void ReportWindow::place() {
     placed_ = onScreen({across(at.left), down(at.top), across(at.width), down(at.height)});
     resize(placed_.size());
     move(placed_.topLeft());
+    if (session_.reportsMaximized)
+        setWindowState(Qt::WindowMaximized);
 }
 
 void ReportWindow::recordPlace() {
@@ -192,10 +262,12 @@ void ReportWindow::syncDocuments() {
     });
     for (const auto& document : documents) {
         if (DocumentFrame* frame = frameOf(document.get())) {
-            frame->sync();
+            frame->sync(commanding_ ? DocumentView::Following::caret
+                                    : DocumentView::Following::report);
             continue;
         }
-        auto* view = new DocumentView(session_, padre_, *document, *editMenu_);
+        auto* view = new DocumentView(session_, padre_, *document, *editMenu_,
+                                      [this](MenuEntry& entry) { click(entry); });
         frmDocumento& shown = *document;
         auto* frame = new DocumentFrame(
             shown, view, [this, &shown] { session_.act([&] { padre_.closeDocument(shown); }); });
@@ -212,6 +284,7 @@ void ReportWindow::syncDocuments() {
     DocumentFrame* active = frameOf(padre_.active());
     if (active && area_->currentSubWindow() != active)
         area_->setActiveSubWindow(active);
+    strip_->sync();
     // The next one takes over the room of the one that went.
     if (active && maximized)
         active->showMaximized();
@@ -242,8 +315,11 @@ void ReportWindow::resizeEvent(QResizeEvent* event) {
 
 void ReportWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange)
-        recordPlace();
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    if (!isMinimized())
+        session_.reportsMaximized = isMaximized();
+    recordPlace();
 }
 
 } // namespace caudalera

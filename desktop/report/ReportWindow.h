@@ -15,6 +15,8 @@ class QMenu;
 namespace caudalera {
 
 class DocumentFrame;
+class DocumentStrip;
+class DocumentView;
 class frmDocumento;
 class frmPadre;
 class MenuEntry;
@@ -41,6 +43,11 @@ private:
     void buildMenu();
     QMenu* menuOf(const MenuEntry& title);
     void click(MenuEntry& entry);
+    /// Whether the active document is too long, or would be, for what the entry does with it, which
+    /// the user is told.
+    bool refused(const MenuEntry& entry, DocumentView& view);
+    void confirmSaving(const MenuEntry& entry);
+    void activate(const frmDocumento& document);
     void place();
     void recordPlace();
     /// Saving, printing and editing have nothing to work on without one.
@@ -51,10 +58,13 @@ private:
     Session& session_;
     frmPadre& padre_;
     QMdiArea* area_;
+    DocumentStrip* strip_;
     QMenu* editMenu_ = nullptr;
     std::vector<DocumentFrame*> frames_;
     std::vector<std::pair<const MenuEntry*, QAction*>> actions_;
     std::vector<QLabel*> panels_;
+    /// One of the window's own commands runs; other changes of the documents are reports.
+    bool commanding_ = false;
     /// Where the view itself put the window; anything else is the user's doing.
     QRect placed_;
 };

@@ -22,12 +22,16 @@ namespace {
 enum BlockProperty { leftTwips = QTextFormat::UserProperty + 1, rightTwips };
 
 constexpr double twipsPerInch = 1440;
-/// Characters of the widest rules and tables of the reports, with the indents on both sides.
-constexpr int widestLine = 156;
+/// Hyphens of the widest rule of the reports.
+constexpr int widestRule = 165;
+/// What stands beside it in a maximised window, in twips: the indents of the report, 200 on each
+/// side, the right margin of the text, 400, the ground around its box, 100 on each side, and a
+/// scroll bar with the box's own frame and margins.
+constexpr double besideRule = 200 + 200 + 400 + 100 + 100 + 400;
 /// Paragraphs between two signs that the work goes on; some 50 ms to lay out.
 constexpr int batch = 2000;
 
-double pixels(int twips) {
+double pixels(double twips) {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return twips * (screen ? screen->logicalDotsPerInchX() : 96) / twipsPerInch;
 }
@@ -148,12 +152,12 @@ QFont reportFont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::Monospace);
     const QScreen* screen = QGuiApplication::primaryScreen();
-    const double room = screen ? screen->availableGeometry().width() : 1024;
+    const double room = (screen ? screen->availableGeometry().width() : 1024) - pixels(besideRule);
     constexpr double smallest = 8;
     if (font.pointSizeF() <= 0)
         font.setPointSizeF(10);
     while (font.pointSizeF() > smallest &&
-           QFontMetricsF(font).horizontalAdvance(u'-') * widestLine > room)
+           QFontMetricsF(font).horizontalAdvance(u'-') * widestRule > room)
         font.setPointSizeF(font.pointSizeF() - 0.5);
     return font;
 }

@@ -1,5 +1,6 @@
 #include "desktop/session/DesktopPlatform.h"
 
+#include "desktop/richtext/LayoutLimits.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "desktop/richtext/RichTextClipboard.h"
@@ -8,6 +9,7 @@
 #include "desktop/style/LongWork.h"
 #include "desktop/style/Title.h"
 #include "desktop/words/FileKinds.h"
+#include "shell/files/TextFile.h"
 #include "shell/numbers/RuntimeFailure.h"
 #include "shell/report/frmDocumento.h"
 
@@ -71,6 +73,21 @@ QString mapped(const QString& word, const QString& fixedDirectory) {
 bool accepted(QDialog& dialog) {
     const LongWork::Pause pause;
     return dialog.exec() == QDialog::Accepted;
+}
+
+bool isOfReports(const FileDialog& dialog) {
+    return dialog.filter.ends_with("|*.RTF");
+}
+
+/// What makes the report of a file too long to be shown; empty if nothing does. One that can't be
+/// read is the command's affair.
+QString excessOf(const std::string& path) {
+    LongWork::announce();
+    try {
+        return richtext::excess(readRtf(leerArchivo(path)));
+    } catch (const RuntimeFailure&) {
+        return {};
+    }
 }
 
 } // namespace
@@ -161,7 +178,7 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
     box.setOption(QFileDialog::DontConfirmOverwrite);
     box.setNameFilter(nameFilter(dialog.filter));
     // A report is recognised by its suffix elsewhere; series files may be called anything.
-    if (dialog.kind == FileDialog::Kind::save && dialog.filter.ends_with("|*.RTF"))
+    if (dialog.kind == FileDialog::Kind::save && isOfReports(dialog))
         box.setDefaultSuffix(QStringLiteral("rtf"));
     if (dialog.fileName.empty()) {
         box.setDirectory(QApplication::applicationDirPath());
@@ -170,9 +187,21 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
         box.setDirectory(last.absolutePath());
         box.selectFile(last.fileName());
     }
+    chosenFile_ = "";
     if (!accepted(box) || box.selectedFiles().isEmpty())
         return std::nullopt;
-    return QDir::toNativeSeparators(box.selectedFiles().constFirst()).toStdString();
+    const QString path = QDir::toNativeSeparators(box.selectedFiles().constFirst());
+    if (dialog.kind == FileDialog::Kind::open && isOfReports(dialog)) {
+        if (const QString excess = excessOf(path.toStdString()); !excess.isEmpty()) {
+            showBox(QStringLiteral("«%1» es demasiado largo para mostrarlo: %2.\n\n"
+                                   "No se ha abierto; el documento queda como estaba.")
+                        .arg(QFileInfo(path).fileName(), excess),
+                    toQString(dialog.title), Icon::information);
+            return std::nullopt;
+        }
+    }
+    chosenFile_ = path.toStdString();
+    return chosenFile_;
 }
 
 bool DesktopPlatform::showPrintDialog(const PrintDialog& dialog) {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <memory>
+#include <utility>
 
 class QPixmap;
 class QPrinter;
@@ -21,7 +22,11 @@ public:
 
     /// Brings the views in line first, so that the user sees what the handler has written so far.
     void showMessage(const Message& message) override;
+    /// A report that is too long to be shown is refused in words, as if the dialog were cancelled.
     std::optional<std::string> showFileDialog(const FileDialog& dialog) override;
+    /// The file that the last dialog gave, which is forgotten then: empty if it was cancelled, none
+    /// if there was no dialog.
+    std::optional<std::string> takeChosenFile() { return std::exchange(chosenFile_, {}); }
     bool showPrintDialog(const PrintDialog& dialog) override;
     /// Without a printer nothing happens.
     void printWindow(const Window& window) override;
@@ -65,6 +70,7 @@ private:
     const std::string decimalSeparator_;
     QString copiesFolder_;
     std::unique_ptr<QPrinter> printer_;
+    std::optional<std::string> chosenFile_;
 };
 
 /// Name filter of a dialog: "Valores de X|*.X" as "Valores de X (*.X)", several parted by ";;".

@@ -69,6 +69,8 @@ public:
     /// The decimal sign of numbers that are copied from grids, which holds for the run; as they are
     /// shown, if null.
     QChar copyDecimal;
+    /// Whether the report window was maximised when it was last seen, which holds for the run.
+    bool reportsMaximized = false;
 
     /// nullptr while the window has none.
     QWidget* viewOf(const Window& window) const;

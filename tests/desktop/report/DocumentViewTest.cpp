@@ -1,3 +1,4 @@
+#include "desktop/richtext/LayoutLimits.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/richtext/RichTextBridge.h"
 #include "tests/desktop/report/ReportFixture.h"
@@ -5,10 +6,15 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextLayout>
+#include <QTimer>
 
 using namespace caudalera;
 
@@ -211,6 +217,125 @@ private slots:
         QCOMPARE(pasted(source), QStringLiteral("fuente"));
         QVERIFY(on->text().paragraphs()[0].runs[0].format.italic);
         verifyInLine();
+    }
+
+    void aSecondReportComesIntoViewAtItsHeading() {
+        on->compose("Primero", 80);
+        const int second = on->view()->document()->blockCount() - 1;
+        on->compose("Segundo", 80);
+        const QTextBlock top = on->view()->cursorForPosition({5, 1}).block();
+        QCOMPARE(top.text(), QStringLiteral("Resultados"));
+        QCOMPARE(top.blockNumber(), second);
+        QVERIFY(on->view()->textCursor().atEnd());
+    }
+
+    void aReportAtTheCaretComesIntoViewToo() {
+        on->compose("Primero", 300);
+        // In the middle of a line, far from what is in sight.
+        QTextCursor caret(on->view()->document()->findBlockByNumber(200));
+        caret.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 3);
+        on->view()->setTextCursor(caret);
+        on->view()->verticalScrollBar()->setValue(0);
+        const QString before = caret.block().text().left(3);
+        on->compose("Segundo", 80);
+        const QTextBlock top = on->view()->cursorForPosition({5, 1}).block();
+        QCOMPARE(top.text(), before + "Resultados");
+    }
+
+    void whatIsPastedLeavesTheViewWhereItIs() {
+        on->compose("Largo", 300);
+        on->view()->setTextCursor(QTextCursor(on->view()->document()->findBlockByNumber(150)));
+        on->view()->ensureCursorVisible();
+        on->view()->verticalScrollBar()->setValue(on->view()->verticalScrollBar()->value() + 40);
+        const int value = on->view()->verticalScrollBar()->value();
+        QGuiApplication::clipboard()->setText(QStringLiteral("llano"));
+        key(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(on->view()->verticalScrollBar()->value(), value);
+        QVERIFY(on->plainText().contains(QStringLiteral("llano")));
+    }
+
+    void whatIsPastedOutOfSightComesIntoIt() {
+        on->compose("Largo", 300);
+        QCOMPARE(on->view()->verticalScrollBar()->value(), 0);
+        QGuiApplication::clipboard()->setText(QStringLiteral("llano"));
+        key(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(on->view()->viewport()->rect().intersects(on->view()->cursorRect()));
+    }
+
+    void copyingAndSavingLeaveTheViewWhereItIs() {
+        on->compose("Largo", 300);
+        key(Qt::Key_C, Qt::ControlModifier);
+        const QTemporaryDir folder;
+        on->session->act(
+            [&] { on->padre().active()->caption = folder.filePath("a.rtf").toStdString(); });
+        key(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(QFile::exists(folder.filePath("a.rtf")));
+        QCOMPARE(on->view()->verticalScrollBar()->value(), 0);
+    }
+
+    void whatIsDroppedIsPlainTextAndRefusedIfTooLong() {
+        const auto drop = [this](const QString& text) {
+            QMimeData data;
+            data.setText(text);
+            data.setHtml("<b>" + text.left(10) + "</b>");
+            QWidget& target = *on->view()->viewport();
+            QDragEnterEvent enters({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&target, &enters);
+            QDropEvent drops({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QString told;
+            QTimer::singleShot(0, [&told] {
+                if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    told = box->text();
+                    box->buttons().constFirst()->click();
+                }
+            });
+            QApplication::sendEvent(&target, &drops);
+            QCoreApplication::processEvents();
+            return told;
+        };
+        QVERIFY(drop(QString(400000, u'x')).contains(QStringLiteral("No se ha pegado nada.")));
+        QCOMPARE(on->plainText(), QString());
+        QCOMPARE(drop(QStringLiteral("abc")), QString());
+        QCOMPARE(on->plainText(), QStringLiteral("abc"));
+        QVERIFY(!on->text().paragraphs()[0].runs[0].format.bold);
+        verifyInLine();
+    }
+
+    void theWidestRuleStandsInOneLineAndFitsAWideWindow() {
+        on->session->act([this] { on->text().setSelText(std::string(165, '-')); });
+        on->window()->resize(1366, 600);
+        QCoreApplication::processEvents();
+        const QTextLayout* layout = on->view()->document()->begin().layout();
+        QCOMPARE(layout->lineCount(), 1);
+        QCOMPARE(on->view()->horizontalScrollBar()->maximum(), 0);
+        on->window()->resize(500, 600);
+        QCoreApplication::processEvents();
+        QCOMPARE(on->view()->document()->begin().layout()->lineCount(), 1);
+        QVERIFY(on->view()->horizontalScrollBar()->maximum() > 0);
+        QCOMPARE(on->plainText(), QString(165, u'-'));
+    }
+
+    void ofATextThatIsTooLongTheBeginningIsShown() {
+        on->session->act(
+            [this] { on->text().assign(std::vector<Paragraph>(richtext::mostParagraphs + 1)); });
+        QVERIFY(!on->view()->shownWhole());
+        QVERIFY(on->view()->isReadOnly());
+        QCOMPARE(on->view()->document()->blockCount(), static_cast<int>(richtext::mostParagraphs));
+        const auto* notice = on->window()->findChild<QLabel*>(QStringLiteral("notice"));
+        QVERIFY(notice->isVisible());
+        QVERIFY(notice->text().contains(on->view()->excess()));
+        type("x");
+        key(Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(on->view()->document()->blockCount(), static_cast<int>(richtext::mostParagraphs));
+        on->view()->moveCursor(QTextCursor::End);
+        // The model's text and caret are as they were.
+        QCOMPARE(on->text().paragraphs().size(), richtext::mostParagraphs + 1);
+        QCOMPARE(on->text().selStart(), std::size_t{0});
+        on->session->act([this] { on->text().assign({}); });
+        QVERIFY(on->view()->shownWhole());
+        QVERIFY(!notice->isVisible());
+        type("x");
+        QCOMPARE(on->plainText(), QStringLiteral("x"));
     }
 
     void cutAndPasteAreTheModels() {

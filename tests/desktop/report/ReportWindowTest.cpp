@@ -1,7 +1,15 @@
+#include "desktop/report/DocumentStrip.h"
+#include "desktop/richtext/LayoutLimits.h"
 #include "tests/desktop/report/ReportFixture.h"
 
+#include <QClipboard>
+#include <QFileDialog>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
+#include <QStatusBar>
+#include <QTimer>
 
 using namespace caudalera;
 
@@ -14,6 +22,7 @@ private:
     QAction* action(const char* name) {
         return on->window()->findChild<QAction*>(QLatin1String(name));
     }
+    DocumentStrip& strip() { return *on->window()->findChild<DocumentStrip*>(); }
     int pixels(double twips) { return qRound(twips * on->window()->logicalDpiX() / 1440); }
     std::optional<std::string> stored(const char* key) {
         return on->session->platform().setting(key);
@@ -110,6 +119,138 @@ private slots:
         QVERIFY(enabled().contains(QStringLiteral("mnuEditPaste")));
     }
 
+    void theStripListsTheDocumentsAndMarksTheActiveOne() {
+        action("mnuFileNew")->trigger();
+        action("mnuFileNew")->trigger();
+        QCOMPARE(strip().count(), 3);
+        QCOMPARE(strip().tabText(0), QStringLiteral("Documento 1"));
+        QCOMPARE(strip().currentIndex(), 2);
+        // It stands below the documents.
+        QVERIFY(strip().mapTo(on->window(), QPoint()).y() >=
+                on->area()->mapTo(on->window(), QPoint()).y() + on->area()->height());
+        QTest::mouseClick(&strip(), Qt::LeftButton, {}, strip().tabRect(1).center());
+        QCOMPARE(on->padre().active(), on->padre().documents()[1].get());
+        QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("Documento 2"));
+        QTest::keyClicks(QApplication::focusWidget(), "dos");
+        QCOMPARE(QString::fromStdString(on->padre().documents()[1]->rtfText.text()),
+                 QStringLiteral("dos"));
+        // The other way round, and when one goes.
+        on->area()->setActiveSubWindow(on->area()->subWindowList()[0]);
+        QCOMPARE(strip().currentIndex(), 0);
+        on->area()->currentSubWindow()->close();
+        QCOMPARE(strip().count(), 2);
+        QCOMPARE(strip().tabText(0), QStringLiteral("Documento 2"));
+        QCOMPARE(on->padre().active(),
+                 on->padre().documents()[static_cast<std::size_t>(strip().currentIndex())].get());
+        on->session->act([this] { on->padre().closeDocument(*on->padre().documents()[0]); });
+        on->session->act([this] { on->padre().closeDocument(*on->padre().documents()[0]); });
+        QVERIFY(strip().isHidden());
+    }
+
+    void longNamesAreCutInTheStripAndItScrolls() {
+        const QString path =
+            QStringLiteral("/una/carpeta/Caudales de Gumbel & Nash de toda la cuenca.rtf");
+        on->session->act([&] { on->padre().active()->caption = path.toStdString(); });
+        QCOMPARE(strip().tabToolTip(0), path);
+        QVERIFY(strip().tabRect(0).width() <
+                strip().fontMetrics().horizontalAdvance(QFileInfo(path).fileName()));
+        QCOMPARE(strip().tabText(0),
+                 QStringLiteral("Caudales de Gumbel && Nash de toda la cuenca.rtf"));
+        for (int i = 0; i < 12; ++i)
+            action("mnuFileNew")->trigger();
+        QCOMPARE(on->window()->width(), pixels(6500));
+        // The current one is in sight, the first is scrolled away.
+        QVERIFY(strip().rect().contains(strip().tabRect(12)));
+        QVERIFY(strip().tabRect(0).right() < 0);
+    }
+
+    void savingConfirmsItself() {
+        const QTemporaryDir folder;
+        const QString path = QDir::toNativeSeparators(folder.filePath("informe.rtf"));
+        const auto status = [this] { return on->window()->statusBar()->currentMessage(); };
+        on->session->act([&] { on->padre().active()->caption = path.toStdString(); });
+        QCOMPARE(status(), QString());
+        action("mnuFileSave")->trigger();
+        QCOMPARE(status(), QStringLiteral("Guardado: ") + path);
+        QVERIFY(QFile::exists(path));
+        on->window()->statusBar()->clearMessage();
+        const auto dialog = [](bool accept, const QString& name) {
+            QTimer::singleShot(0, [accept, name] {
+                auto& box = *qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                box.selectFile(name);
+                accept ? QMetaObject::invokeMethod(&box, "accept") : (box.reject(), true);
+            });
+        };
+        dialog(false, path);
+        action("mnuFileSaveAs")->trigger();
+        QCOMPARE(status(), QString());
+        const QString other = QDir::toNativeSeparators(folder.filePath("otro.rtf"));
+        dialog(true, other);
+        action("mnuFileSaveAs")->trigger();
+        QCOMPARE(status(), QStringLiteral("Guardado: ") + other);
+        on->window()->statusBar()->clearMessage();
+        // Opening says nothing.
+        dialog(true, path);
+        action("mnuFileOpen")->trigger();
+        QCOMPARE(status(), QString());
+        QCOMPARE(on->padre().active()->caption, path.toStdString());
+    }
+
+    void aPasteThatIsTooLongIsRefusedInWords() {
+        QTest::keyClicks(on->view(), "ab");
+        on->session->act([this] { on->text().select(0, 1); });
+        const auto paste = [this](const QString& text) {
+            QGuiApplication::clipboard()->setText(text);
+            QString told;
+            QTimer::singleShot(0, [&told] {
+                if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    told = box->windowTitle() + ": " + box->text();
+                    box->buttons().constFirst()->click();
+                }
+            });
+            action("mnuEditPaste")->trigger();
+            QCoreApplication::processEvents();
+            return told;
+        };
+        const QString tooMany =
+            paste(QString(static_cast<qsizetype>(richtext::mostParagraphs), u'\n'));
+        QVERIFY(tooMany.startsWith("Pegar: Lo que se pega no cabe"));
+        QVERIFY(tooMany.contains(QString::fromUtf8("100\u00A0001 párrafos")));
+        QVERIFY(paste(QString(400000, u'x'))
+                    .contains(QString::fromUtf8("una palabra de 400\u00A0001 caracteres")));
+        QCOMPARE(on->plainText(), QStringLiteral("ab"));
+        QCOMPARE(on->text().selLength(), std::size_t{1});
+        QCOMPARE(paste(QStringLiteral("x")), QString());
+        QCOMPARE(on->plainText(), QStringLiteral("xb"));
+    }
+
+    void aReportThatIsTooLongIsNeitherEditedNorPrinted() {
+        on->session->act(
+            [this] { on->text().assign(std::vector<Paragraph>(richtext::mostParagraphs + 5)); });
+        QGuiApplication::clipboard()->setText(QStringLiteral("x"));
+        int told = 0;
+        for (const char* name : {"mnuEditCut", "mnuEditPaste", "mnuFilePrint"}) {
+            QTimer::singleShot(0, [&told] {
+                if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    told += box->text().contains("demasiado largo") ? 1 : 0;
+                    box->buttons().constFirst()->click();
+                }
+            });
+            action(name)->trigger();
+        }
+        QCOMPARE(told, 3);
+        QCOMPARE(on->text().paragraphs().size(), richtext::mostParagraphs + 5);
+        // Saving writes all of it.
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("todo.rtf");
+        on->session->act([&] { on->padre().active()->caption = path.toStdString(); });
+        action("mnuFileSave")->trigger();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(readRtf(file.readAll().toStdString()).paragraphs().size(),
+                 richtext::mostParagraphs + 5);
+    }
+
     void captionsFollowTheModel() {
         on->session->act([this] { on->padre().active()->caption = "/tmp/informe.RTF"; });
         QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("/tmp/informe.RTF"));
@@ -137,6 +278,23 @@ private slots:
         QVERIFY(on->open());
         QCOMPARE(on->window()->pos(), QPoint(200, 120));
         QCOMPARE(on->window()->size(), QSize(520, 410));
+    }
+
+    void withinTheRunItComesBackMaximised() {
+        on->window()->showMaximized();
+        QCoreApplication::processEvents();
+        on->window()->close();
+        QVERIFY(on->open());
+        QVERIFY(on->window()->isMaximized());
+        on->window()->showNormal();
+        QCoreApplication::processEvents();
+        on->window()->close();
+        QVERIFY(on->open());
+        QVERIFY(!on->window()->isMaximized());
+        on->window()->showMaximized();
+        on->start();
+        QVERIFY(on->open());
+        QVERIFY(!on->window()->isMaximized());
     }
 
     void closingUntouchedKeepsTheTwipsAsTheyWere() {

@@ -101,6 +101,30 @@ private slots:
         QVERIFY(!platform().showFileDialog({FileDialog::Kind::open, "Abrir", "Todo|*.*", ""}));
     }
 
+    void aReportThatIsTooLongIsRefusedBeforeItIsTaken() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("largo.rtf");
+        const auto opened = [&](qsizetype lineFeeds) {
+            QFile file(path);
+            static_cast<void>(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(lineFeeds, '\n'));
+            file.close();
+            desktop_->expectDialog([&](QDialog& dialog) {
+                static_cast<QFileDialog&>(dialog).selectFile(path);
+                QMetaObject::invokeMethod(&dialog, "accept");
+            });
+            return platform().showFileDialog(
+                {FileDialog::Kind::open, "Abrir", "Archivos (*.RTF)|*.RTF", ""});
+        };
+        QVERIFY(opened(99999));
+        desktop_->expectBox(
+            {QString::fromUtf8("«largo.rtf» es demasiado largo para mostrarlo: 650\u00A0001 "
+                               "párrafos, y caben 100\u00A0000.\n\nNo se ha abierto; el "
+                               "documento queda como estaba."),
+             "Abrir", QMessageBox::Information});
+        QVERIFY(!opened(650000));
+    }
+
     void settingsLastBeyondTheProgram() {
         QVERIFY(!platform().setting("MainLeft"));
         platform().setSetting("MainLeft", " 1500");
