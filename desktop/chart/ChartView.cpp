@@ -367,6 +367,7 @@ void ChartView::focusInEvent(QFocusEvent* event) {
     update();
 }
 
+    words::prepare(dialog, kinds);
 void ChartView::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     update();

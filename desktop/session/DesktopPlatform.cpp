@@ -170,7 +170,7 @@ std::optional<std::string> DesktopPlatform::showFileDialog(const FileDialog& dia
     session_.sync();
     words::FileKinds kinds;
     QFileDialog box(parentForDialogs(), toQString(dialog.title));
-    box.setIconProvider(&kinds);
+    words::prepare(box, kinds);
     box.setAcceptMode(dialog.kind == FileDialog::Kind::open ? QFileDialog::AcceptOpen
                                                             : QFileDialog::AcceptSave);
     // Any name may be given: one that cannot be loaded is the command's affair.

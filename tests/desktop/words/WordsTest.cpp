@@ -2,20 +2,17 @@
 
 #include "desktop/words/FileKinds.h"
 #include "tests/desktop/DesktopFixture.h"
+#include "tests/desktop/words/ShownTexts.h"
 
-#include <QAbstractButton>
 #include <QAction>
+#include <QClipboard>
 #include <QColorDialog>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFontDialog>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -24,103 +21,14 @@
 #include <QPrintDialog>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <QSet>
 #include <QSpinBox>
-#include <QTabBar>
 #include <QTextEdit>
+#include <qcustomplot.h>
 
 namespace caudalera {
-
-namespace {
-
-/// Asked last: keeps what no translator before it knew.
-class Unknown : public QTranslator {
-public:
-    QString translate(const char* context, const char* english, const char* /*disambiguation*/,
-                      int /*n*/) const override {
-        static const QRegularExpression word(QStringLiteral("[a-z]"));
-        const QString text = QString::fromUtf8(english);
-        // The program's own texts are Spanish as they stand; names of paper sizes have no words.
-        if (!QByteArray(context).startsWith("caudalera::") && text.contains(word))
-            asked.insert(QString::fromUtf8(context) + QStringLiteral(": ") + text);
-        return {};
-    }
-    bool isEmpty() const override { return false; }
-
-    mutable QSet<QString> asked;
-};
-
-/// All that a person can read of a widget and what it holds, tool tips and menus included.
-QStringList textsOf(const QWidget& top) {
-    QStringList texts;
-    auto widgets = top.findChildren<QWidget*>();
-    widgets.prepend(const_cast<QWidget*>(&top));
-    for (const QWidget* widget : widgets) {
-        texts << widget->toolTip() << widget->windowTitle() << widget->accessibleName();
-        if (const auto* label = qobject_cast<const QLabel*>(widget))
-            texts << label->text();
-        if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
-            texts << button->text();
-        if (const auto* group = qobject_cast<const QGroupBox*>(widget))
-            texts << group->title();
-        if (const auto* list = qobject_cast<const QComboBox*>(widget)) {
-            for (int i = 0; i < list->count(); ++i)
-                texts << list->itemText(i);
-        }
-        if (const auto* spin = qobject_cast<const QSpinBox*>(widget))
-            texts << spin->prefix() << spin->suffix();
-        if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
-            for (int i = 0; i < tabs->count(); ++i)
-                texts << tabs->tabText(i) << tabs->tabToolTip(i);
-        }
-        if (const auto* header = qobject_cast<const QHeaderView*>(widget);
-            header && header->model()) {
-            for (int i = 0; i < header->count(); ++i)
-                texts << header->model()->headerData(i, header->orientation()).toString();
-        }
-        for (const QAction* action : widget->actions())
-            texts << action->text() << action->toolTip()
-                  << action->shortcut().toString(QKeySequence::NativeText);
-    }
-    for (const QAction* action : top.findChildren<QAction*>())
-        texts << action->text() << action->toolTip()
-              << action->shortcut().toString(QKeySequence::NativeText);
-    texts.removeAll(QString());
-    return texts;
-}
-
-/// English texts that are another in Spanish, without their access keys.
-QSet<QString> englishTexts() {
-    QSet<QString> texts;
-    for (const auto& words : {words::dialogWords(), words::printingWords()}) {
-        for (const words::Word& word : words) {
-            if (qstrcmp(word.english, word.spanish) != 0)
-                texts.insert(QString::fromUtf8(word.english).remove(u'&'));
-        }
-    }
-    return texts;
-}
-
-/// What of these texts is not the program's Spanish.
-QStringList foreign(const QStringList& texts) {
-    static const QSet<QString> english = englishTexts();
-    static const QRegularExpression word(
-        QStringLiteral("\\b(ficheros?|directorios?|directory|files?|folder|open|save|cancel|print|"
-                       "copy|paste|undo|select|page|the|shift)\\b"),
-        QRegularExpression::CaseInsensitiveOption);
-    QStringList found;
-    for (const QString& text : texts) {
-        const QString plain = QString(text).remove(u'&').section(u'\t', 0, 0);
-        if (english.contains(plain) || word.match(QString(text).remove(u'&')).hasMatch())
-            found << text;
-    }
-    return found;
-}
-
-} // namespace
 
 class WordsTest : public QObject {
     Q_OBJECT
@@ -266,7 +174,7 @@ private slots:
             buttons.sort();
             QCOMPARE(buttons, saves ? QStringList({"Cancelar", "Guardar"})
                                     : QStringList({"Abrir", "Cancelar"}));
-            checkMenu(names);
+            QVERIFY(opensMenu(names));
         });
         desktop_->session.platform().showFileDialog(
             {saves ? FileDialog::Kind::save : FileDialog::Kind::open, "Informe",
@@ -282,7 +190,7 @@ private slots:
             check(dialog);
             for (auto* spin : dialog.findChildren<QSpinBox*>())
                 spin->setEnabled(true);
-            checkMenu(*dialog.findChild<QSpinBox*>());
+            QVERIFY(opensMenu(*dialog.findChild<QSpinBox*>()));
             // The fixture's watchdog is still at this dialog.
             QTimer watch;
             QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
@@ -323,12 +231,12 @@ private slots:
 
     void contextMenus() {
         desktop_->open("frmQmaxRacional");
-        checkMenu(*desktop_->view().findChild<QLineEdit*>());
+        QVERIFY(opensMenu(*desktop_->view().findChild<QLineEdit*>()));
         QTextEdit text;
         text.setPlainText(QStringLiteral("uno\n").repeated(100));
         text.show();
-        checkMenu(*text.viewport());
-        checkMenu(*text.verticalScrollBar());
+        QVERIFY(opensMenu(*text.viewport()));
+        QVERIFY(opensMenu(*text.verticalScrollBar()));
     }
 
     void theReportWindowAndItsDocuments() {
@@ -353,37 +261,85 @@ private slots:
         QFETCH(QString, name);
         desktop_->open(name.toStdString());
         check(desktop_->view());
+        // With the menus of all kinds of widgets that have one.
+        QSet<QByteArray> kinds;
+        for (QWidget* child : desktop_->view().findChildren<QWidget*>()) {
+            const QByteArray kind = child->metaObject()->className();
+            if (!kinds.contains(kind) && child->isEnabled() && opensMenu(*child))
+                kinds.insert(kind);
+        }
+    }
+
+    void theImageOfAChart() {
+        desktop_->open("frmDisNormal");
+        bool looked = false;
+        desktop_->expectDialog([&](QDialog& dialog) {
+            looked = true;
+            const auto close = qScopeGuard([&] { dialog.reject(); });
+            check(dialog);
+            QVERIFY(
+                dynamic_cast<words::FileKinds*>(dynamic_cast<QFileDialog&>(dialog).iconProvider()));
+        });
+        auto& plot = *desktop_->view().findChild<QCustomPlot*>();
+        QVERIFY(opensMenu(plot, [](const QMenu& menu) {
+            for (QAction* action : menu.actions()) {
+                if (action->text().startsWith(QStringLiteral("Guardar imagen")))
+                    action->trigger();
+            }
+        }));
+        QVERIFY(looked);
+    }
+
+    void theQuestionAboutAComma() {
+        desktop_->open("frmPenman");
+        auto& field = desktop_->widget<QLineEdit>("txth");
+        field.setFocus();
+        QGuiApplication::clipboard()->setText(QStringLiteral("1,234"));
+        bool looked = false;
+        desktop_->expectBox({QStringLiteral("¿Qué número es «1,234»?"), QStringLiteral("Pegar"),
+                             QMessageBox::Question},
+                            [&] {
+                                looked = true;
+                                check(*QApplication::activeModalWidget());
+                            });
+        desktop_->press(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(looked);
     }
 
 private:
-    static void check(const QWidget& widget) {
+    void check(const QWidget& widget) {
         const QStringList texts = textsOf(widget);
         QVERIFY(!texts.isEmpty());
-        const QStringList found = foreign(texts);
+        QStringList found = foreign(texts);
+        // What the window itself is given to say stays as it is.
+        for (const Control* control : desktop_->window().controls())
+            found.removeAll(QString::fromStdString(control->caption).remove(u'&'));
         QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
     }
-    /// Of the menu that a right click opens.
-    static void checkMenu(QWidget& widget) {
+    /// Whether a right click opens a menu; one that opens is looked at and closed.
+    bool opensMenu(QWidget& widget, const std::function<void(const QMenu&)>& look = {}) {
         bool opened = false;
         QTimer watch;
         QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             if (!menu)
                 return;
-            watch.stop();
             opened = true;
             check(*menu);
+            if (look)
+                look(*menu);
             menu->close();
         });
-        watch.start(5);
+        watch.start(0);
         const QPoint center = widget.rect().center();
         QContextMenuEvent click(QContextMenuEvent::Mouse, center, widget.mapToGlobal(center));
         QApplication::sendEvent(&widget, &click);
-        QTRY_VERIFY(opened);
+        QCoreApplication::processEvents();
+        return opened;
     }
 
     QTemporaryDir folder_;
-    Unknown unknown_;
+    UnknownTexts unknown_;
     std::unique_ptr<words::Words> own_;
     std::unique_ptr<DesktopFixture> desktop_;
 };
