@@ -70,7 +70,7 @@ QString imageNameFor(const QString& caption) {
 void askAndSaveChart(QCustomPlot& plot, const QString& caption, QWidget* parent) {
     words::FileKinds kinds;
     QFileDialog dialog(parent, title());
-    dialog.setIconProvider(&kinds);
+    words::prepare(dialog, kinds);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(chartImageFilters());
     dialog.setDefaultSuffix(bare(chartImageFilters().constFirst()));

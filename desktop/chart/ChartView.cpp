@@ -367,7 +367,6 @@ void ChartView::focusInEvent(QFocusEvent* event) {
     update();
 }
 
-    words::prepare(dialog, kinds);
 void ChartView::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     update();

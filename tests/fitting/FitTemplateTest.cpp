@@ -38,7 +38,7 @@ public:
             lineales = {{&second, &txtdos, "Dos= "}};
         } else {
             columnasDeAjuste = {&reducidaOrdinaria, &acumOrdinaria};
-            curvas = {{&probEmpirica, "Exp"}, {&acumOrdinaria, "Teo"}};
+            curvas = {{&probEmpirica, "Exp", "Empírica"}, {&acumOrdinaria, "Teo", "Teórica"}};
         }
         disponer(layout::fields({txtuno, txtdos}));
         load();
