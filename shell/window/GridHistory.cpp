@@ -79,14 +79,17 @@ bool GridHistory::takeOver(Step& step) {
     const auto from = cells_.begin() + first * columns_;
     const auto to = cells_.end() - rest * columns_;
     step.cells.assign(std::make_move_iterator(from), std::make_move_iterator(to));
-    std::vector<std::string> now;
-    now.reserve(static_cast<std::size_t>(step.rows * columns_));
+    // Only another number of rows moves those behind them, of which there may be many.
+    if (rowsNow < rowsBefore) {
+        cells_.erase(from, from + (rowsBefore - rowsNow) * columns_);
+    } else {
+        cells_.insert(from, static_cast<std::size_t>((rowsNow - rowsBefore) * columns_), {});
+    }
+    auto cell = cells_.begin() + first * columns_;
     for (long row = step.first; row < step.first + step.rows; ++row) {
         for (long col = grid_.FixedCols(); col < grid_.Cols(); ++col)
-            now.push_back(grid_.TextMatrix(row, col));
+            *cell++ = grid_.TextMatrix(row, col);
     }
-    const auto gap = cells_.erase(from, to);
-    cells_.insert(gap, std::make_move_iterator(now.begin()), std::make_move_iterator(now.end()));
     return step.rows > 0 || !step.cells.empty();
 }
 
