@@ -18,6 +18,7 @@ void GridModel::sync() {
     const int fixedRows = static_cast<int>(grid_.FixedRows());
     const int rows = static_cast<int>(grid_.Rows()) - fixedRows;
     const int cols = static_cast<int>(grid_.Cols());
+    filledRows_ = countFilledRows();
     if (cols != cols_ || fixedRows != fixedRows_) {
         beginResetModel();
         rows_ = rows;
@@ -38,6 +39,16 @@ void GridModel::sync() {
     if (rows_ > 0 && cols_ > 0)
         emit dataChanged(index(0, 0), index(rows_ - 1, cols_ - 1));
     emit headerDataChanged(Qt::Horizontal, 0, std::max(cols_ - 1, 0));
+}
+
+int GridModel::countFilledRows() const {
+    for (long row = grid_.Rows() - 1; row >= grid_.FixedRows(); --row) {
+        for (long col = 0; col < grid_.Cols(); ++col) {
+            if (!grid_.TextMatrix(row, col).empty())
+                return static_cast<int>(row - grid_.FixedRows() + 1);
+        }
+    }
+    return 0;
 }
 
 QModelIndex GridModel::indexOf(long row, long col) const {

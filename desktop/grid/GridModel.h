@@ -20,6 +20,8 @@ public:
     /// Where a cell of the grid stands here, and back.
     QModelIndex indexOf(long row, long col) const;
     long gridRow(int row) const { return row + fixedRows_; }
+    /// How many rows there are up to the last one that holds something.
+    int filledRows() const { return filledRows_; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -29,6 +31,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    int countFilledRows() const;
     QString text(long row, long col) const;
     Qt::Alignment alignment(int col) const;
 
@@ -37,6 +40,7 @@ private:
     int rows_ = 0;
     int cols_ = 0;
     int fixedRows_ = 0;
+    int filledRows_ = 0;
     std::uint64_t revision_ = 0;
 };
 

@@ -8,21 +8,12 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
-#include <numeric>
 
 namespace caudalera {
 
-namespace {
-
-/// The model's widths are in twips: 1440 are an inch of 96 px, and a unit is 8 px.
-constexpr double twipsPerUnit = 1440.0 / 96 * 8;
-constexpr int defaultTwips = 1000;
-
-} // namespace
-
 GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
-    : QTableView(parent), session_(session), grid_(grid), model_(grid, this),
-      delegate_(grid, this) {
+    : QTableView(parent), session_(session), grid_(grid), model_(grid, this), delegate_(grid, this),
+      columns_(*this, grid, model_) {
     setObjectName(toQString(grid.name()));
     setModel(&model_);
     setItemDelegate(&delegate_);
@@ -46,7 +37,7 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + style::unit());
     QHeaderView* header = horizontalHeader();
-    header->setSectionResizeMode(QHeaderView::Fixed);
+    header->setSectionResizeMode(QHeaderView::Interactive);
     header->setMinimumSectionSize(1);
     header->setHighlightSections(false);
     header->setSectionsClickable(false);
@@ -63,6 +54,10 @@ GridView::GridView(Session& session, MSFlexGrid& grid, QWidget* parent)
     }
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GridView::userScrolled);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { syncEditor(); });
+    connect(header, &QHeaderView::sectionResized, this, [this](int col, int /*old*/, int width) {
+        columns_.resized(col, width);
+        syncEditor();
+    });
 }
 
 void GridView::sync() {
@@ -77,7 +72,7 @@ void GridView::sync() {
         revision_ = grid_.revision();
         fitHeader();
         if (columns != model_.columnCount() || columns == 0 || horizontalHeader()->length() == 0)
-            fitColumns();
+            columns_.fit();
         executeDelayedItemsLayout();
         // Results are not shown on more ground than they fill.
         if (!editor_)
@@ -85,7 +80,11 @@ void GridView::sync() {
     }
     current_ = current;
     selectionEnd_ = end;
+    if (moved || written)
+        updateGeometries();
     syncScroll(moved || written);
+    if (written)
+        columns_.see();
     if (selected) {
         selectionModel()->setCurrentIndex(model_.indexOf(current.row, current.col),
                                           QItemSelectionModel::NoUpdate);
@@ -135,6 +134,12 @@ void GridView::syncEditor() {
 }
 
 void GridView::userScrolled(int value) {
+    if (!editor_) {
+        // At the end of whatever range the toolkit shows its very last row.
+        verticalHeader()->setOffsetToSectionPosition(value);
+        viewport()->update();
+    }
+    columns_.see();
     if (session_.busy() || resizing_) {
         syncEditor();
         return;
@@ -145,72 +150,47 @@ void GridView::userScrolled(int value) {
     });
 }
 
-int GridView::columnMinimum(int col) const {
-    const QString title = model_.headerData(col, Qt::Horizontal).toString();
-    int width = 0;
-    for (const QString& line : title.split(u'\n'))
-        width = std::max(width, fontMetrics().horizontalAdvance(line));
-    return width + 2 * style::unit();
-}
-
-int GridView::preferredWidth(int col) const {
-    const auto i = static_cast<std::size_t>(col);
-    const int twips = i < grid_.columnWidths.size() ? grid_.columnWidths[i] : defaultTwips;
-    return std::max(columnMinimum(col), static_cast<int>(twips / twipsPerUnit * style::unit()));
-}
-
-void GridView::fitColumns() {
-    const int columns = model_.columnCount();
-    std::vector<int> widths(static_cast<std::size_t>(columns));
-    for (int col = 0; col < columns; ++col)
-        widths[static_cast<std::size_t>(col)] = preferredWidth(col);
-    const int wanted = std::accumulate(widths.begin(), widths.end(), 0);
-    const int room = fittedWidth_ = viewport()->width();
-    int used = 0;
-    for (int col = 0; col < columns; ++col) {
-        int& width = widths[static_cast<std::size_t>(col)];
-        width = std::max(columnMinimum(col),
-                         static_cast<int>(static_cast<double>(width) * room / std::max(wanted, 1)));
-        // The last one takes what rounding leaves.
-        if (col == columns - 1 && used + width < room)
-            width = room - used;
-        used += width;
-        if (columnWidth(col) != width)
-            setColumnWidth(col, width);
-    }
-}
-
 int GridView::heightOf(int rows) const {
     return horizontalHeader()->height() + rows * verticalHeader()->defaultSectionSize() +
            2 * frameWidth() + 2;
 }
 
+int GridView::sides() const {
+    return 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+}
+
 QSize GridView::sizeHint() const {
-    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int col = 0; col < model_.columnCount(); ++col)
-        width += preferredWidth(col);
-    return {width, heightOf(grid_.visibleRows)};
+    return {sides() + columns_.preferredTotal(), heightOf(grid_.visibleRows)};
 }
 
 QSize GridView::minimumSizeHint() const {
-    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
-    for (int col = 0; col < model_.columnCount(); ++col)
-        width += columnMinimum(col);
-    return {width, heightOf(std::min(grid_.visibleRows, 4))};
+    return {sides() + columns_.titlesTotal(), heightOf(std::min(grid_.visibleRows, 4))};
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
     resizing_ = true;
     QTableView::resizeEvent(event);
     resizing_ = false;
+    columns_.see();
     syncEditor();
 }
 
 void GridView::updateGeometries() {
     QTableView::updateGeometries();
+    limitScrolling();
     // A scroll bar that comes or goes changes the room, too.
-    if (viewport()->width() != fittedWidth_)
-        fitColumns();
+    columns_.fitToRoom();
+}
+
+void GridView::limitScrolling() {
+    // Where one types, the empty row at the end is the one to be reached.
+    if (editor_)
+        return;
+    const int current = model_.indexOf(current_.row, current_.col).row();
+    const int end = std::max(model_.filledRows(), current + 1);
+    QScrollBar& bar = *verticalScrollBar();
+    // The toolkit's range ends at the last row, and all rows are of one height.
+    bar.setMaximum(std::max(bar.maximum() - (model_.rowCount() - end), 0));
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {

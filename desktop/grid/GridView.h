@@ -2,6 +2,7 @@
 
 #include "desktop/controls/ControlView.h"
 #include "desktop/grid/CellDelegate.h"
+#include "desktop/grid/GridColumns.h"
 #include "desktop/grid/GridModel.h"
 #include "shell/window/GridHistory.h"
 
@@ -72,10 +73,11 @@ private:
     void userScrolled(int value);
     /// As high as its lines of titles.
     void fitHeader();
-    void fitColumns();
-    int columnMinimum(int col) const;
-    int preferredWidth(int col) const;
     int heightOf(int rows) const;
+    /// What stands beside the columns.
+    int sides() const;
+    /// Results scroll to their last row that holds something, or that is the current one.
+    void limitScrolling();
     void syncScroll(bool moved);
     void syncEditor();
     void openMenu(const QPoint& globalPosition);
@@ -92,12 +94,12 @@ private:
     MSFlexGrid& grid_;
     GridModel model_;
     CellDelegate delegate_;
+    GridColumns columns_;
     GridEditor* editor_ = nullptr;
     std::uint64_t revision_ = 0;
     Cell current_{-1, -1};
     Cell selectionEnd_{-1, -1};
     long topRow_ = -1;
-    int fittedWidth_ = -1;
     bool resizing_ = false;
     bool dragging_ = false;
 };

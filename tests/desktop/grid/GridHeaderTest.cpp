@@ -108,6 +108,8 @@ private slots:
     }
 
     void scrollingTellsTheTopmostRowBelowTheFixedOnes() {
+        desktop_->session.act(
+            [&] { desktop_->program().act([&] { grid().setTextMatrix(39, 1, "391"); }); });
         view().verticalScrollBar()->setValue(5);
         QCOMPARE(grid().TopRow(), 7L);
         QCOMPARE(rectOf(7, 1).top(), 0);
