@@ -67,6 +67,7 @@ DocumentView::DocumentView(Session& session, frmPadre& padre, frmDocumento& docu
     // where they are wider than the box, it scrolls.
     setLineWrapMode(QTextEdit::WidgetWidth);
     fitMargins();
+    setMinimumWidth(richtext::narrowestBox(font()));
     connect(this->document(), &QTextDocument::contentsChange, this, &DocumentView::noteChange);
     connect(this, &QTextEdit::textChanged, this, &DocumentView::tellModel);
     connect(this, &QTextEdit::cursorPositionChanged, this, &DocumentView::tellModel);

@@ -3,6 +3,7 @@
 #include "shell/text/Utf8.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -41,6 +42,17 @@ std::size_t wordToBreak(const Paragraph& paragraph, std::size_t length) {
     return isTableLine(line) ? 0 : longestWordIn(line);
 }
 
+/// Lines of 10 points that a paragraph is as high as in the narrowest box. Larger type is higher
+/// and has fewer characters a line.
+double linesOf(const Paragraph& paragraph, std::size_t length) {
+    int halfPoints = 20;
+    for (const TextRun& run : paragraph.runs)
+        halfPoints = std::max(halfPoints, run.format.halfPoints);
+    const double larger = halfPoints / 20.0;
+    const double lines = std::ceil(static_cast<double>(length) * larger / narrowestLine);
+    return lines <= 1 || isTableLine(paragraph.text()) ? larger : lines * larger;
+}
+
 /// The first characters of a paragraph that is too long for the layout.
 Paragraph cut(const Paragraph& paragraph, std::size_t characters) {
     Paragraph head;
@@ -64,24 +76,33 @@ QString excess(const RichText& text) {
         return tooMany(QStringLiteral("%1 párrafos"), paragraphs.size(), mostParagraphs);
     if (text.length() > mostCharacters)
         return tooMany(QStringLiteral("%1 caracteres"), text.length(), mostCharacters);
+    double lines = 0;
     for (const Paragraph& paragraph : paragraphs) {
         const std::size_t length = paragraph.length();
+        lines += linesOf(paragraph, length);
         if (length > longestParagraph)
             return tooMany(QStringLiteral("un párrafo de %1 caracteres"), length, longestParagraph);
         if (const std::size_t word = wordToBreak(paragraph, length); word > longestWord)
             return tooMany(QStringLiteral("una palabra de %1 caracteres"), word, longestWord);
     }
+    if (lines > mostLines)
+        return tooMany(QStringLiteral("%1 líneas"), static_cast<std::size_t>(lines), mostLines);
     return {};
 }
 
 RichText showable(const RichText& text) {
     std::vector<Paragraph> shown;
     std::size_t left = mostCharacters;
+    double lines = 0;
     for (const Paragraph& paragraph : text.paragraphs()) {
         const std::size_t length = paragraph.length();
         const bool wordTooLong = wordToBreak(paragraph, length) > longestWord;
         const std::size_t most = std::min(left, wordTooLong ? longestWord : longestParagraph);
-        shown.push_back(length > most ? cut(paragraph, most) : paragraph);
+        Paragraph part = length > most ? cut(paragraph, most) : paragraph;
+        lines += linesOf(part, std::min(length, most));
+        if (lines > mostLines)
+            break;
+        shown.push_back(std::move(part));
         // Each counts with its end.
         left -= std::min(left, std::min(length, most) + 1);
         if (left == 0 || shown.size() == mostParagraphs)

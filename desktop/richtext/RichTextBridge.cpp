@@ -1,5 +1,6 @@
 #include "desktop/richtext/RichTextBridge.h"
 
+#include "desktop/richtext/LayoutLimits.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/style/LongWork.h"
 
@@ -12,6 +13,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QtMath>
 #include <algorithm>
 
 namespace caudalera::richtext {
@@ -172,6 +174,10 @@ FixedFont boxFont() {
     font.setPixelSize(pixels);
     box.width = QFontMetricsF(font).horizontalAdvance(u'-') / pixels;
     return box;
+}
+
+int narrowestBox(const QFont& font) {
+    return qCeil(QFontMetricsF(font).horizontalAdvance(u'-') * narrowestLine + pixels(besideRule));
 }
 
 void prepare(QTextDocument& document, const QFont& font) {

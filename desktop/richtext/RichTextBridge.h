@@ -23,6 +23,8 @@ namespace caudalera::richtext {
 QFont reportFont();
 /// The same font as the model names it, by the family that stands for it on this system.
 FixedFont boxFont();
+/// Width of a box in which a line has room for `narrowestLine` characters.
+int narrowestBox(const QFont& font);
 /// Default font and tab stops (every eight characters) of a document that shows a report.
 void prepare(QTextDocument& document, const QFont& font);
 

@@ -70,12 +70,27 @@ private slots:
     }
 
     void charactersAreCountedInAll() {
-        // 100 characters and a line end each, but the last: 99,010 paragraphs make 10,000,009.
-        QCOMPARE(excess(of(99009, prose(100))), QString());
-        const RichText text = of(99010, prose(100));
+        // 100 characters and a line end each, but the last: 99,010 rows make 10,000,009.
+        const std::string row = "1\t" + prose(98);
+        QCOMPARE(excess(of(99009, row)), QString());
+        const RichText text = of(99010, row);
         verifyRefused(text, "10\u00A0000\u00A0009 caracteres, y caben 10\u00A0000\u00A0000");
         QVERIFY(text.text().starts_with(showable(text).text()));
         QVERIFY(showable(text).length() > 9999900);
+    }
+
+    void linesAreCountedAsInTheNarrowestBox() {
+        // 20 characters a line: 40 are two lines, 41 three.
+        QCOMPARE(excess(of(100000, prose(40))), QString());
+        const RichText text = of(66667, prose(41));
+        verifyRefused(text, "200\u00A0001 líneas, y caben 200\u00A0000");
+        QCOMPARE(showable(text).paragraphs().size(), std::size_t{66666});
+        // Of 40 points a line is four times as high, and 10 characters are as long as 40.
+        Paragraph large;
+        large.runs = {{"diez letra", {false, false, false, "", 80, -1}}};
+        QCOMPARE(excess(RichText(std::vector<Paragraph>(25000, large))), QString());
+        verifyRefused(RichText(std::vector<Paragraph>(25001, large)),
+                      "200\u00A0008 líneas, y caben 200\u00A0000");
     }
 
     void whatFitsIsShownAsItIs() {
