@@ -40,7 +40,7 @@ void AboutView::build() {
 
     QWidget& logo = views_.of(window_.imgLogo).widget();
     logo.setObjectName(toQString(window_.imgLogo.name()));
-    logo.setFixedSize(18 * style::unit(), 18 * style::unit());
+    logo.setFixedSize(20 * style::unit(), 20 * style::unit());
     column->addWidget(&logo, 0, Qt::AlignHCenter);
     QLabel* name = line("nombre", QStringLiteral("Caudalera"));
     QFont large = name->font();

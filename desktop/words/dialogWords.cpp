@@ -205,6 +205,7 @@ constexpr Word dialog[] = {
     {"QFontDialog", "Select Font", "Seleccionar una fuente"},
     {"QFontDialog", "Stri&keout", "&Tachado"},
     {"QFontDialog", "Wr&iting System", "Sistema de escr&itura"},
+    {"QIODevice", "No such file or directory", "No existe el archivo o la carpeta"},
     {"QLineEdit", "&Copy", "&Copiar"},
     {"QLineEdit", "&Paste", "&Pegar"},
     {"QLineEdit", "&Redo", "&Rehacer"},
