@@ -186,6 +186,16 @@ private slots:
         QVERIFY(!contentOf(path(name + " - datos.txt")).contains("5000"));
     }
 
+    void aWindowThatWasJustOpenedHoldsNothing() {
+        for (const WindowEntry& entry : ventanas())
+            desktop_->open(std::string(entry.name));
+        const Copies copies = copyAllOpen(desktop_->program(), desktop_->copiesFolder());
+        const QDir found(copies.folder);
+        QVERIFY2(copies.folder.isEmpty(), qPrintable(found.entryList(QDir::Files).join(u'\n')));
+        QCOMPARE(copies.words(), QString());
+        QVERIFY(!QDir(desktop_->copiesFolder()).exists());
+    }
+
     void numbersHaveADecimalPointWhateverTheyAreShownWith() {
         const QByteArray usual = qgetenv("CAUDALERA_DECIMAL");
         qputenv("CAUDALERA_DECIMAL", ",");

@@ -134,6 +134,24 @@ private slots:
         QVERIFY(looks() == empty);
     }
 
+    void aChangeThatIsTakenBackMutesNothing() {
+        desktop_->open("frmDisNormal");
+        desktop_->typeValues({"4", "6", "5", "7.5"});
+        desktop_->clickButton("bCalcular");
+        const Looks fresh = looks();
+        const auto change = [this](const char* value) {
+            desktop_->clickCell(2, 1);
+            DesktopFixture::type(QString::fromUtf8(value));
+            DesktopFixture::press(Qt::Key_Return);
+        };
+        change("9");
+        QVERIFY(!(looks() == fresh));
+        QCOMPARE(state(), QStringLiteral("4 datos · ") + older);
+        change("6");
+        QCOMPARE(state(), QStringLiteral("4 datos · calculado"));
+        QVERIFY(looks() == fresh);
+    }
+
     void mutedTextsCanBeRead() {
         const double readable = 4.5;
         for (const QColor& ground : {style::staleGround(), style::paleAccent(), style::selection()})
