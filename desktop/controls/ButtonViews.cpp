@@ -32,9 +32,10 @@ CommandButton::CommandButton(Session& session, Button& button, QWidget* parent)
     setIconSize({2 * style::unit(), 2 * style::unit()});
     if (accented_) {
         QPalette accented = palette();
-        accented.setColor(QPalette::Button, style::accent());
-        for (const auto group : {QPalette::Active, QPalette::Inactive})
+        for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+            accented.setColor(group, QPalette::Button, style::buttonAccent());
             accented.setColor(group, QPalette::ButtonText, style::accentText());
+        }
         setPalette(accented);
     }
     showIcon(false);

@@ -21,12 +21,17 @@ namespace {
 
 constexpr QRgb ground = 0xFFF4F6F7;
 constexpr QRgb text = 0xFF1E2A30;
-constexpr QRgb quietText = 0xFF8A979D;
+/// Readable as well, on any of the grounds.
+constexpr QRgb quietText = 0xFF66737A;
+constexpr QRgb placeholder = 0xFF5B686E;
 
 } // namespace
 
 QColor accent() {
     return {0x1F, 0x6F, 0x8B};
+}
+QColor buttonAccent() {
+    return {0x12, 0x4E, 0x63};
 }
 QColor accentText() {
     return Qt::white;
@@ -106,7 +111,7 @@ void apply(QApplication& application) {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, calmField());
     palette.setColor(QPalette::Text, QColor(text));
-    palette.setColor(QPalette::PlaceholderText, QColor(quietText));
+    palette.setColor(QPalette::PlaceholderText, QColor(placeholder));
     palette.setColor(QPalette::Button, QColor(0xFF, 0xFF, 0xFF));
     palette.setColor(QPalette::ButtonText, QColor(text));
     palette.setColor(QPalette::Light, Qt::white);

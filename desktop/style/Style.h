@@ -13,8 +13,10 @@ namespace caudalera::style {
 /// Fusion with the program's palette and the few rules on top of it.
 void apply(QApplication& application);
 
-/// The main action, the header of grids, the first series.
+/// The header of grids, headings, the first series.
 QColor accent();
+/// The same as the ground of a button, which the style shades into a lighter one.
+QColor buttonAccent();
 QColor accentText();
 /// Ground of fixed cells, of the exit button.
 QColor paleAccent();

@@ -73,6 +73,21 @@ private slots:
         QVERIFY(normal != hover);
     }
 
+    /// At the size of a button the one leans on the right tail, the other on the left one.
+    void theTailsAreToldApart() {
+        const auto ink = [](const char* name, bool right) {
+            const QImage image =
+                style::icon(QString::fromLatin1(name)).pixmap(16, QIcon::Normal).toImage();
+            int dark = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = right ? 8 : 0; x < (right ? 16 : 8); ++x)
+                    dark += image.pixelColor(x, y).alphaF() > 0.6 ? 1 : 0;
+            return dark;
+        };
+        QVERIFY(ink("Pmayor", true) >= 2 * ink("Pmayor", false));
+        QVERIFY(ink("Pmenor", false) >= 2 * ink("Pmenor", true));
+    }
+
     void everyPictureHasItsDrawing() {
         int pictures = 0;
         forEveryControl([&](const Control& control) {
