@@ -120,6 +120,20 @@ void OptionButton::sync() {
         setText(caption);
     if (isChecked() != option_.checked())
         setChecked(option_.checked());
+    const Qt::FocusPolicy policy =
+        isTabStop() ? static_cast<Qt::FocusPolicy>(focusPolicy() | Qt::TabFocus)
+                    : static_cast<Qt::FocusPolicy>(focusPolicy() & ~Qt::TabFocus);
+    if (focusPolicy() != policy)
+        setFocusPolicy(policy);
+}
+
+bool OptionButton::isTabStop() const {
+    const Option* stop = nullptr;
+    for (const Option* each : option_.group().options()) {
+        if (each->visible && each->enabled && (!stop || each->checked()))
+            stop = each;
+    }
+    return stop == &option_;
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {

@@ -69,6 +69,8 @@ protected:
 
 private:
     void stepFrom(int step);
+    /// One of a group: the one that is set, or the first if none is.
+    bool isTabStop() const;
 
     Session& session_;
     Option& option_;

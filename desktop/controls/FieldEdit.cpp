@@ -52,6 +52,8 @@ FieldEdit::FieldEdit(Session& session, TextBox& box, QWidget* parent)
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (box.result) {
         setReadOnly(true);
+        // Read and copied, but nothing to go through by the keyboard.
+        setFocusPolicy(Qt::ClickFocus);
         QPalette calm = palette();
         calm.setColor(QPalette::Base, style::calmField());
         setPalette(calm);

@@ -1,5 +1,7 @@
 #include "desktop/style/Style.h"
 
+#include "desktop/style/FocusRing.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFontMetrics>
@@ -128,6 +130,8 @@ void apply(QApplication& application) {
         palette.setColor(QPalette::Disabled, role, QColor(quietText));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(quietText));
     QApplication::setPalette(palette);
+    if (!application.findChild<FocusRing*>())
+        new FocusRing(application);
 
     application.setWindowIcon(icon(QStringLiteral("app")));
 }

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace caudalera {
@@ -122,6 +123,17 @@ void WindowView::syncFocus() {
     for (const Focusable& each : focusChain_) {
         if (each.control == window_.focus() && each.widget != focusWidget())
             each.widget->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void WindowView::keyPressEvent(QKeyEvent* event) {
+    // A box that has nothing but the command it is left by.
+    const bool box = window_.commands.size() == 1 && window_.commands.front().buttons.size() == 1 &&
+                     window_.commands.front().buttons.front() == window_.mainAction;
+    if (event->key() == Qt::Key_Escape && box) {
+        session_.act([this] { session_.program().click(*window_.mainAction); });
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 
