@@ -35,6 +35,13 @@ QTabWidget& TabsView::tabs() const {
     return static_cast<QTabWidget&>(widget());
 }
 
+int TabsView::pageOf(const QWidget& widget) const {
+    int page = tabs().count() - 1;
+    while (page >= 0 && !tabs().widget(page)->isAncestorOf(&widget))
+        --page;
+    return page >= 0 && widget.isVisibleTo(tabs().widget(page)) ? page : -1;
+}
+
 QWidget* TabsView::focusTarget() const {
     return tabs().tabBar();
 }

@@ -22,6 +22,8 @@ public:
     TabsView(Session& session, Tabs& tabs, QWidget* parent);
 
     QTabWidget& tabs() const;
+    /// On which page a widget is seen when the page is; -1 if on none.
+    int pageOf(const QWidget& widget) const;
     QWidget* focusTarget() const override;
     void sync() override;
 };

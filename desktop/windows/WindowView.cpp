@@ -1,5 +1,6 @@
 #include "desktop/windows/WindowView.h"
 
+#include "desktop/controls/ContainerViews.h"
 #include "desktop/grid/GridEditor.h"
 #include "desktop/grid/GridView.h"
 #include "desktop/style/Style.h"
@@ -12,6 +13,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace caudalera {
 
@@ -121,8 +123,25 @@ void WindowView::sync() {
 
 void WindowView::syncFocus() {
     for (const Focusable& each : focusChain_) {
-        if (each.control == window_.focus() && each.widget != focusWidget())
+        if (each.control != window_.focus())
+            continue;
+        bringForward(*each.widget);
+        if (each.widget != focusWidget())
             each.widget->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void WindowView::bringForward(const QWidget& widget) {
+    for (const auto& view : views_.all()) {
+        auto* shown = dynamic_cast<TabsView*>(view.get());
+        const int page = shown ? shown->pageOf(widget) : -1;
+        auto* tabs = shown ? static_cast<Tabs*>(&shown->control()) : nullptr;
+        if (page < 0 || page == tabs->tab())
+            continue;
+        const auto event = std::exchange(tabs->onClick, nullptr);
+        tabs->choose(page);
+        tabs->onClick = event;
+        shown->sync();
     }
 }
 

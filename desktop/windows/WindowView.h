@@ -37,6 +37,8 @@ private:
     void build();
     void orderFocus();
     void syncFocus();
+    /// Brings forward the tabs that a widget stands on, with no event: nobody has chosen them.
+    void bringForward(const QWidget& widget);
     /// The user has brought the keyboard to a widget.
     void focused(const QObject* widget, Qt::FocusReason reason);
     /// No smaller than its content, unless the screen is: then the content scrolls.

@@ -78,6 +78,31 @@ private slots:
         QVERIFY(desktop_->program().find("frmParamEsta"));
     }
 
+    void theTabOfTheFocusComesForwardWithoutItsEvent() {
+        desktop_->open("frmQmaxRacional");
+        auto& model = desktop_->control<Tabs>("SSTab1");
+        auto& tabs = desktop_->widget<QTabWidget>("SSTab1");
+        int chosen = 0;
+        const auto event = model.onClick;
+        model.onClick = [&] {
+            ++chosen;
+            event();
+        };
+        desktop_->session.act([&] {
+            desktop_->program().act(
+                [&] { desktop_->window().setFocus(desktop_->control<TextBox>("txtac")); });
+        });
+        QCOMPARE(tabs.currentIndex(), 1);
+        QCOMPARE(model.tab(), 1);
+        QCOMPARE(chosen, 0);
+        QCOMPARE(QApplication::focusWidget(), &desktop_->widget<QLineEdit>("txtac"));
+        // What is not seen on its tab does not call it.
+        desktop_->session.act([&] {
+            desktop_->program().act([&] { desktop_->window().setFocus(desktop_->grid()); });
+        });
+        QCOMPARE(model.tab(), 1);
+    }
+
     void aRingStandsAroundEveryKindOfControl() {
         desktop_->open("frmDisNormal");
         // Wider than the screen, so that nothing scrolls.
