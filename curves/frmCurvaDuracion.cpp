@@ -36,6 +36,7 @@ frmCurvaDuracion::frmCurvaDuracion(Program& program)
     OptNormal.preset(true);
     bGraficar.onClick = [this] { graficar(); };
     bQ.onClick = [this] { evaluarQ(); };
+    txtxp.command = &bQ;
     disponer();
 }
 

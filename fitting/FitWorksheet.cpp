@@ -31,6 +31,8 @@ FitWorksheet::FitWorksheet(Program& program, std::string name, std::string text,
     bT.onClick = [this] { evaluarCaudal(Evaluacion::T); };
     bPmayor.onClick = [this] { evaluarCaudal(Evaluacion::Pmayor); };
     bPmenor.onClick = [this] { evaluarCaudal(Evaluacion::Pmenor); };
+    txtxt.command = &bQ;
+    txtxq.command = &bT;
 }
 
 void FitWorksheet::disponer(Layout camposDeParametros) {

@@ -39,6 +39,7 @@ RainfallFlowWindow::RainfallFlowWindow(Program& program, std::string name, std::
         {&txtcq, &txtaq, &txtiq, &txtqmax, &txtgrupo, &txtac, &txts, &txtCponderado, &txtatotal});
     SSTab1.onClick = [this] { elegirPestana(); };
     bAgregar.onClick = [this] { agregar(); };
+    txts.command = &bAgregar;
     bCponderado.onClick = [this] { ponderar(); };
 }
 

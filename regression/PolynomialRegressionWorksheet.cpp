@@ -49,6 +49,7 @@ PolynomialRegressionWorksheet::PolynomialRegressionWorksheet(Program& program, s
     columnas = {&potencias_[0], &Y_};
     bGraficar.onClick = [this] { graficar(); };
     bCalY.onClick = [this] { calcularY(); };
+    txtvxx1.command = &bCalY;
     txtvxx1.onChange = [this] { txtvyy.setText({}); };
     disponer({&txtvxx1}, {layout::buttons({&bCalY})}, &Graph1);
     mandatoTrasCalcular(bGraficar);

@@ -27,6 +27,8 @@ frmRegreLineal::frmRegreLineal(Program& program)
           textos(), 550) {
     bCalY.onClick = [this] { calcularY(); };
     bCalX.onClick = [this] { calcularX(); };
+    txtvxx.command = &bCalY;
+    txtvyy.command = &bCalX;
     disponerPares(layout::column({layout::buttons({&bCalY}), layout::buttons({&bCalX})}));
     // Either of them may be the one that is known.
     txtvyy.result = false;

@@ -157,9 +157,27 @@ void FieldEdit::sync() {
         showSelection();
 }
 
+void FieldEdit::pressEnter(bool again) {
+    const bool meant = box_.onEnter || box_.onKey || box_.window().onKey;
+    session_.act([&] {
+        Program& program = session_.program();
+        program.key(box_, {Key::Kind::enter});
+        if (meant || again || !box_.command)
+            return;
+        program.click(*box_.command);
+        // The next value comes into the same field.
+        if (box_.window().focus() == box_.command)
+            program.focus(box_);
+    });
+}
+
 bool FieldEdit::pressInModel(const QKeyEvent& event) {
     const auto kind = commandKey(event);
-    if (kind && (*kind == Key::Kind::enter || box_.onKey)) {
+    if (kind == Key::Kind::enter) {
+        pressEnter(event.isAutoRepeat());
+        return true;
+    }
+    if (kind && box_.onKey) {
         session_.act([&] { session_.program().key(box_, {*kind}); });
         return true;
     }

@@ -38,6 +38,7 @@ private:
     /// An act of the user's hands on the text.
     void act(const std::function<void(Program&)>& event);
     bool pressInModel(const QKeyEvent& event);
+    void pressEnter(bool again);
     /// The widget has edited by itself.
     void tellText(const QString& text);
     /// Caret and selection are part of the control: what the user does to them goes there.

@@ -13,7 +13,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
-#include <utility>
 
 namespace caudalera {
 
@@ -138,9 +137,7 @@ void WindowView::bringForward(const QWidget& widget) {
         auto* tabs = shown ? static_cast<Tabs*>(&shown->control()) : nullptr;
         if (page < 0 || page == tabs->tab())
             continue;
-        const auto event = std::exchange(tabs->onClick, nullptr);
-        tabs->choose(page);
-        tabs->onClick = event;
+        tabs->preset(page);
         shown->sync();
     }
 }

@@ -29,10 +29,14 @@ void Option::preset(bool value) {
     checked_ = value;
 }
 
-void Tabs::choose(int index) {
+void Tabs::preset(int index) {
     if (index < 0 || index >= static_cast<int>(titles_.size()))
         throw RuntimeFailure(Failure::index);
     tab_ = index;
+}
+
+void Tabs::choose(int index) {
+    preset(index);
     if (onClick)
         onClick();
 }

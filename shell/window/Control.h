@@ -171,6 +171,8 @@ public:
     int tab() const { return tab_; }
     /// Brings a tab forward and runs the event; failure 9 for one that is not there.
     void choose(int index);
+    /// The same without the event: what is on it has the focus.
+    void preset(int index);
 
     std::function<void()> onClick;
 
@@ -218,6 +220,9 @@ public:
     std::function<bool(Key)> onKey;
     std::function<void()> onChange;
     std::function<void()> onEnter;
+    /// The command that works with what this field holds. A view presses it by ENTER where
+    /// `onEnter` gives that key no meaning.
+    Button* command = nullptr;
     /// Holds a result: shown apart from what the user enters.
     bool result = false;
     /// Characters that it should show without scrolling.

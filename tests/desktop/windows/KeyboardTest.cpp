@@ -64,6 +64,58 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("4.5"));
     }
 
+    void enterPressesTheCommandOfAField() {
+        desktop_->open("frmDisNormal");
+        desktop_->typeValues({"10", "20", "30", "40"});
+        desktop_->clickButton("bCalcular");
+        auto& period = desktop_->widget<QLineEdit>("txtxt");
+        period.setFocus();
+        desktop_->type("2");
+        desktop_->press(Qt::Key_Return);
+        // The median of a normal distribution is its mean, (10 + 20 + 30 + 40) / 4.
+        QCOMPARE(desktop_->widget<QLineEdit>("txtxq").text().toDouble(), 25.0);
+        QVERIFY(period.hasFocus());
+        QCOMPARE(desktop_->window().focus(), &desktop_->control<TextBox>("txtxt"));
+        period.clear();
+        auto& flow = desktop_->widget<QLineEdit>("txtxq");
+        flow.setFocus();
+        desktop_->press(Qt::Key_Enter);
+        QCOMPARE(desktop_->widget<QLineEdit>("txtxt").text().toDouble(), 2.0);
+    }
+
+    void whatAWindowMakesOfEnterComesFirst() {
+        desktop_->open("frmEjRegSimple");
+        desktop_->typeValues({"1", "2", "2", "4", "3", "6.5"});
+        desktop_->clickButton("bCalcular");
+        auto& box = desktop_->control<TextBox>("txtvxx");
+        box.command = &desktop_->control<Button>("bLimpiarDatos");
+        desktop_->widget<QLineEdit>("txtvxx").setFocus();
+        desktop_->type("2");
+        desktop_->press(Qt::Key_Return);
+        QCOMPARE(box.text(), std::string("2"));
+        QVERIFY(desktop_->control<Option>("optLineal").checked());
+    }
+
+    void aFieldsCommandStandsBesideIt() {
+        int fields = 0;
+        for (const WindowEntry& entry : ventanas()) {
+            desktop_.reset();
+            desktop_ = std::make_unique<DesktopFixture>();
+            Window& window = desktop_->open(std::string(entry.name));
+            for (Control* control : window.controls()) {
+                const auto* box = dynamic_cast<TextBox*>(control);
+                if (!box || !box->command)
+                    continue;
+                ++fields;
+                QVERIFY(!box->onEnter);
+                const auto& field = desktop_->widget<QWidget>(box->name().c_str());
+                const auto& button = desktop_->widget<QWidget>(box->command->name().c_str());
+                QCOMPARE(field.parentWidget(), button.parentWidget());
+            }
+        }
+        QVERIFY(fields >= 20);
+    }
+
     void escapeClosesABoxByItsOnlyCommand() {
         desktop_->open("frmacerc");
         desktop_->press(Qt::Key_Escape);
