@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 namespace caudalera {
 
@@ -74,9 +75,7 @@ void GridView::sync() {
         if (columns != model_.columnCount() || columns == 0 || horizontalHeader()->length() == 0)
             columns_.fit();
         executeDelayedItemsLayout();
-        // Results are not shown on more ground than they fill.
-        if (!editor_)
-            setMaximumHeight(heightOf(std::max(grid_.visibleRows, model_.rowCount())));
+        limitHeight();
     }
     current_ = current;
     selectionEnd_ = end;
@@ -151,8 +150,22 @@ void GridView::userScrolled(int value) {
 }
 
 int GridView::heightOf(int rows) const {
+    const int bar = scrollsAside_ ? horizontalScrollBar()->sizeHint().height() : 0;
     return horizontalHeader()->height() + rows * verticalHeader()->defaultSectionSize() +
-           2 * frameWidth() + 2;
+           2 * frameWidth() + 2 + bar;
+}
+
+int GridView::wantedRows() const {
+    // Results of a few rows, twelve months say, are seen at a glance.
+    constexpr int few = 14;
+    return !editor_ && model_.rowCount() <= few ? std::max(grid_.visibleRows, model_.rowCount())
+                                                : grid_.visibleRows;
+}
+
+void GridView::limitHeight() {
+    // Results are not shown on more ground than they fill.
+    if (!editor_)
+        setMaximumHeight(heightOf(std::max(grid_.visibleRows, model_.rowCount())));
 }
 
 int GridView::sides() const {
@@ -160,7 +173,7 @@ int GridView::sides() const {
 }
 
 QSize GridView::sizeHint() const {
-    return {sides() + columns_.preferredTotal(), heightOf(grid_.visibleRows)};
+    return {sides() + columns_.preferredTotal(), heightOf(wantedRows())};
 }
 
 QSize GridView::minimumSizeHint() const {
@@ -180,6 +193,12 @@ void GridView::updateGeometries() {
     limitScrolling();
     // A scroll bar that comes or goes changes the room, too.
     columns_.fitToRoom();
+    // The one below takes none of the rows' own; before it is shown, the room is none yet.
+    const bool aside = isVisible() && horizontalScrollBar()->maximum() > 0;
+    if (std::exchange(scrollsAside_, aside) != aside) {
+        limitHeight();
+        updateGeometry();
+    }
 }
 
 void GridView::limitScrolling() {

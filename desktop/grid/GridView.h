@@ -74,6 +74,9 @@ private:
     /// As high as its lines of titles.
     void fitHeader();
     int heightOf(int rows) const;
+    /// Rows that it asks room for.
+    int wantedRows() const;
+    void limitHeight();
     /// What stands beside the columns.
     int sides() const;
     /// Results scroll to their last row that holds something, or that is the current one.
@@ -101,6 +104,8 @@ private:
     Cell selectionEnd_{-1, -1};
     long topRow_ = -1;
     bool resizing_ = false;
+    /// Whether the columns take more than the room.
+    bool scrollsAside_ = false;
     bool dragging_ = false;
 };
 

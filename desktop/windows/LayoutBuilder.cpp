@@ -86,6 +86,22 @@ void lineUp(const std::vector<QGridLayout*>& blocks) {
     }
 }
 
+/// Frames side by side end on one line; but one that holds much less than what is beside it does
+/// not stretch around nothing.
+void hugContent(QBoxLayout& row) {
+    constexpr double muchLess = 0.75;
+    int highest = 0;
+    for (int i = 0; i < row.count(); ++i)
+        highest = std::max(highest, row.itemAt(i)->sizeHint().height());
+    for (int i = 0; i < row.count(); ++i) {
+        QLayoutItem& item = *row.itemAt(i);
+        if (qobject_cast<QGroupBox*>(item.widget()) &&
+            item.widget()->sizePolicy().verticalPolicy() != QSizePolicy::Expanding &&
+            item.sizeHint().height() < muchLess * highest)
+            item.setAlignment(Qt::AlignTop);
+    }
+}
+
 } // namespace
 
 QLayout* LayoutBuilder::build(const Layout& layout) {
@@ -162,6 +178,8 @@ QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& 
             lineUp(own);
         }
     }
+    if (!upright)
+        hugContent(*box);
     if (!hasStretch(layout)) {
         box->addStretch(1);
     } else if (upright) {
