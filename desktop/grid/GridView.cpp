@@ -199,6 +199,16 @@ void GridView::updateGeometries() {
         limitHeight();
         updateGeometry();
     }
+    // The toolkit keeps a bar that was needed when the resizing began, and no longer is.
+    if (!aside && horizontalScrollBar()->isVisible()) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+                setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 void GridView::limitScrolling() {

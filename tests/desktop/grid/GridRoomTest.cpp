@@ -29,6 +29,20 @@ private slots:
         QCOMPARE(results().horizontalHeader()->length(), results().viewport()->width());
     }
 
+    void theBarBelowIsThereAsLongAsItIsNeeded() {
+        desktop_->view().resize(1400, 700);
+        QTest::qWait(20);
+        QVERIFY(!results().horizontalScrollBar()->isVisible());
+        drag(results(), 1, 1200);
+        QTRY_VERIFY(results().horizontalScrollBar()->isVisible());
+        // Each row that was seen before still is.
+        QVERIFY(results().sizeHint().height() >
+                results().horizontalScrollBar()->height() +
+                    8 * results().verticalHeader()->defaultSectionSize());
+        drag(results(), 1, -1200);
+        QTRY_VERIFY(!results().horizontalScrollBar()->isVisible());
+    }
+
     void aColumnIsDraggedAndKeepsItsWidth() {
         const int before = results().columnWidth(1);
         drag(results(), 1, 37);
