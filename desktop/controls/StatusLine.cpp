@@ -50,7 +50,9 @@ StatusView::StatusView(StatusBar& control, QWidget* parent)
     : ControlView(control, *new Strip(parent)) {
     widget().setObjectName(toQString(control.name()));
     auto* row = new QHBoxLayout(&widget());
-    row->setContentsMargins(0, style::halfUnit(), 0, 0);
+    // In line with what stands above it.
+    const int margin = style::unit() + style::halfUnit();
+    row->setContentsMargins(margin, style::halfUnit(), margin, 0);
     row->setSpacing(2 * style::unit());
     const auto addLabel = [&](const QString& name, Qt::Alignment alignment) {
         auto* label = new ElidedLabel(&widget());
