@@ -54,7 +54,12 @@ const std::vector<Room> rooms = {
     {"desktop/windows", {"desktop/chart"}},
     {"desktop/report", {"desktop/windows"}},
     {"desktop", {"desktop/report", "app"}},
+    {"manual/maker", {}},
+    {"manual/player", {"manual/maker", "recording"}},
 };
+
+/// Rooms beside the desktop whose files may include a library's own headers.
+const std::set<std::string_view> libraryRooms = {"manual/maker"};
 
 /// The room that a path stands in, by the longest name; nullptr if it is none.
 const Room* roomOf(std::string_view path) {
@@ -83,7 +88,7 @@ std::string fault(std::string_view file, const std::string& target) {
     const Room* const room = roomOf(file);
     if (!room || target.size() < 3)
         return "not understood";
-    const bool desktop = file.starts_with("desktop/");
+    const bool desktop = file.starts_with("desktop/") || libraryRooms.contains(room->name);
     const std::string path = target.substr(1, target.size() - 2);
     if (target.front() == '<') {
         // Headers of the standard library have no folder, no extension and no capitals.
