@@ -283,10 +283,17 @@ bool DesktopPlatform::startProcess(const std::string& commandLine) {
     const QString viewer = words.takeFirst();
     if (QProcess::startDetached(viewer, words))
         return true;
-    return !words.isEmpty() && words.constLast().endsWith(helpFile()) && openHelp();
+    return !words.isEmpty() && words.constLast().endsWith(helpFile()) && openHelpFile();
 }
 
-bool DesktopPlatform::openHelp() {
+bool DesktopPlatform::openHelp(const Window* window) {
+    std::string topic = "c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm";
+    if (window)
+        topic += "::/" + window->name() + ".html";
+    return startProcess(topic) || openHelpFile();
+}
+
+bool DesktopPlatform::openHelpFile() {
     const QDir directory(toQString(fixedDirectory()));
     return directory.exists(helpFile()) &&
            QDesktopServices::openUrl(QUrl::fromLocalFile(directory.filePath(helpFile())));

@@ -44,8 +44,9 @@ public:
     /// Paths below c:\Caudalera\ are taken to the fixed directory. Where the help viewer is not
     /// there, the platform's own viewer of the help file takes its place.
     bool startProcess(const std::string& commandLine) override;
-    /// What F1 does: opens the help file, silently nothing if there is none.
-    bool openHelp();
+    /// Opens the help at the page of a window, at the first one for none; false if there is nothing
+    /// to open it with.
+    bool openHelp(const Window* window);
     std::filesystem::path fixedDirectory() override;
     FixedFont reportFont() override;
     /// As it was when the program started: every number that is shown asks for it.
@@ -58,6 +59,8 @@ public:
     const QString& copiesFolder() const { return copiesFolder_; }
 
 private:
+    /// The platform's own viewer of the help file.
+    bool openHelpFile();
     QWidget* parentForDialogs() const;
     /// A box with one button, `more` in smaller type; returns when it is pressed.
     void showBox(const QString& text, const QString& title, Icon icon,

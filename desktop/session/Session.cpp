@@ -1,6 +1,7 @@
 #include "desktop/session/Session.h"
 
 #include "desktop/style/LongWork.h"
+#include "shell/main/frmCaudalera.h"
 #include "shell/window/Nesting.h"
 
 #include <QApplication>
@@ -168,12 +169,25 @@ void Session::end(const Ending& ending) {
         emit ended(ending.reason == Ending::Reason::exit ? 0 : 1);
 }
 
+void Session::help(const QWidget& widget) {
+    const Window* about = nullptr;
+    // A dialog belongs to the window that it stands before.
+    for (const QWidget* each = &widget; each && !about; each = each->parentWidget()) {
+        for (const Opened& opened : views_) {
+            if (&opened.view->widget() == each)
+                about = opened.window;
+        }
+    }
+    if (!platform_.openHelp(about))
+        act([this] { platform_.showMessage(sinAyuda); });
+}
+
 bool Session::eventFilter(QObject* watched, QEvent* event) {
     if (isInput(*event) && retired(watched))
         return true;
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
-        platform_.openHelp();
+        help(*static_cast<QWidget*>(watched));
         return true;
     }
     if (event->type() == QEvent::KeyPress && watched->isWidgetType() &&

@@ -92,6 +92,8 @@ private:
     void retireUnloaded();
     void openNew();
     void raiseShown();
+    /// What F1 does at a widget: opens the help at the page of its window.
+    void help(const QWidget& widget);
     /// Whether an object is a retired widget or stands in one.
     bool retired(const QObject* object) const;
     /// Says so, unless it was said already.

@@ -95,7 +95,7 @@ void frmCaudalera::opens(MenuEntry& below, const char* name, const char* text, c
 
 void frmCaudalera::ayuda() {
     if (!platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"))
-        mensaje("Para obtener la ayuda presionar tecla F1 ", "Mensaje de error", Icon::information);
+        mensaje(sinAyuda);
 }
 
 } // namespace caudalera

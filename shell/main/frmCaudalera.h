@@ -7,6 +7,10 @@
 namespace caudalera {
 
 /// The main window: a cover picture, the exit button and the menu that opens the others.
+/// What is shown when there is no viewer to show the help with.
+inline const Message sinAyuda = {"Para obtener la ayuda presionar tecla F1 ", "Mensaje de error",
+                                 Icon::information};
+
 class frmCaudalera : public Window {
 public:
     explicit frmCaudalera(Program& program);

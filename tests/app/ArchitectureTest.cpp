@@ -56,10 +56,11 @@ const std::vector<Room> rooms = {
     {"desktop", {"desktop/report", "app"}},
     {"manual/maker", {}},
     {"manual/player", {"manual/maker", "recording"}},
+    {"viewer", {"desktop/style", "desktop/words"}},
 };
 
 /// Rooms beside the desktop whose files may include a library's own headers.
-const std::set<std::string_view> libraryRooms = {"manual/maker"};
+const std::set<std::string_view> libraryRooms = {"manual/maker", "viewer"};
 
 /// The room that a path stands in, by the longest name; nullptr if it is none.
 const Room* roomOf(std::string_view path) {

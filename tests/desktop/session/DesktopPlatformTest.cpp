@@ -17,6 +17,39 @@
 
 namespace caudalera {
 
+#ifndef Q_OS_WIN
+/// A help viewer that only writes down what it was asked for.
+class FakeViewer {
+public:
+    explicit FakeViewer(const QTemporaryDir& folder)
+        : viewer_(folder.filePath("hh")), asked_(folder.filePath("asked")) {
+        if (!viewer_.open(QIODevice::WriteOnly))
+            throw std::runtime_error("no viewer");
+        viewer_.write("#!/bin/sh\necho \"$1\" > \"$(dirname \"$0\")/tmp\"\n"
+                      "mv \"$(dirname \"$0\")/tmp\" \"$(dirname \"$0\")/asked\"\n");
+        viewer_.close();
+        viewer_.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    ~FakeViewer() {
+        QFile::remove(viewer_.fileName());
+        QFile::remove(asked_);
+    }
+    FakeViewer(const FakeViewer&) = delete;
+    FakeViewer& operator=(const FakeViewer&) = delete;
+
+    /// Empty as long as it was not started.
+    QString asked() const {
+        QFile file(asked_);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).trimmed()
+                                              : QString();
+    }
+
+private:
+    QFile viewer_;
+    QString asked_;
+};
+#endif
+
 class DesktopPlatformTest : public QObject {
     Q_OBJECT
 
@@ -156,18 +189,28 @@ private slots:
 
 #ifndef Q_OS_WIN
     void theHelpViewerIsStartedFromTheFixedDirectory() {
-        QFile viewer(folder_.filePath("hh"));
-        QVERIFY(viewer.open(QIODevice::WriteOnly));
-        viewer.write("#!/bin/sh\necho \"$1\" > \"$(dirname \"$0\")/tmp\"\n"
-                     "mv \"$(dirname \"$0\")/tmp\" \"$(dirname \"$0\")/asked\"\n");
-        viewer.close();
-        viewer.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const FakeViewer viewer(folder_);
         QVERIFY(platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"));
-        QFile asked(folder_.filePath("asked"));
-        QTRY_VERIFY(asked.exists());
-        QVERIFY(asked.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(asked.readAll()).trimmed(), folder_.filePath("Ayuda.chm"));
-        QVERIFY(viewer.remove());
+        QTRY_COMPARE(viewer.asked(), folder_.filePath("Ayuda.chm"));
+    }
+
+    void theKeyOpensThePageOfItsWindow() {
+        const FakeViewer viewer(folder_);
+        desktop_->open("frmDisGumbel");
+        QTest::keyClick(&desktop_->widget<QWidget>("txtxt"), Qt::Key_F1);
+        QTRY_COMPARE(viewer.asked(), folder_.filePath("Ayuda.chm::/frmDisGumbel.html"));
+    }
+
+    void theKeyInADialogOpensThePageOfTheWindowBehindIt() {
+        const FakeViewer viewer(folder_);
+        desktop_->open("frmPenman");
+        desktop_->expectDialog([](QDialog& dialog) {
+            QTest::keyClick(&dialog, Qt::Key_F1);
+            dialog.reject();
+        });
+        QFileDialog dialog(&desktop_->view());
+        dialog.exec();
+        QTRY_COMPARE(viewer.asked(), folder_.filePath("Ayuda.chm::/frmPenman.html"));
     }
 #endif
 

@@ -116,7 +116,9 @@ private slots:
         desktop_->expectBox({"Para obtener la ayuda presionar tecla F1 ", "Mensaje de error",
                              QMessageBox::Information});
         action("mayuayu").trigger();
-        // The key itself tells nothing.
+        QCOMPARE(desktop_->unexpectedBoxes(), QString());
+        desktop_->expectBox({"Para obtener la ayuda presionar tecla F1 ", "Mensaje de error",
+                             QMessageBox::Information});
         QTest::keyClick(&desktop_->view(), Qt::Key_F1);
     }
 
