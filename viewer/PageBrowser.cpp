@@ -31,11 +31,11 @@ PageBrowser::PageBrowser(const ChmFile& file, QWidget* parent) : QTextBrowser(pa
             QDesktopServices::openUrl(target);
         }
     });
-    connect(this, &QTextBrowser::sourceChanged, this, &PageBrowser::pageChanged);
-}
-
-QString PageBrowser::page() const {
-    return source().path();
+    // The toolkit's own source() is still the one before when it says so.
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
+        page_ = url.path();
+        emit pageChanged();
+    });
 }
 
 void PageBrowser::openPage(const QString& path) {
@@ -79,8 +79,8 @@ QVariant PageBrowser::loadResource(int type, const QUrl& name) {
 
 QImage PageBrowser::image(const QByteArray& bytes) const {
     QImage picture = QImage::fromData(bytes);
-    // The page has margins within those of the document.
-    const int width = viewport()->width() - 6 * fontMetrics().height();
+    // The page has margins within those of the document, and a bar may come beside it.
+    const int width = viewport()->width() - 9 * fontMetrics().height();
     const_cast<PageBrowser*>(this)->fittedWidth_ = viewport()->width();
     if (width > 0 && picture.width() > width)
         picture = picture.scaledToWidth(width, Qt::SmoothTransformation);

@@ -15,7 +15,7 @@ public:
     explicit PageBrowser(const ChmFile& file, QWidget* parent = nullptr);
 
     /// Path of the page that is shown.
-    QString page() const;
+    QString page() const { return page_; }
     void openPage(const QString& path);
     /// Marks these words in the page and goes to the first of them; none takes the marks away.
     void mark(const QStringList& words);
@@ -33,6 +33,7 @@ private:
     QImage image(const QByteArray& bytes) const;
 
     const ChmFile& file_;
+    QString page_;
     /// Pictures get the new width once the user has stopped dragging.
     QTimer refit_;
     int fittedWidth_ = 0;

@@ -60,8 +60,10 @@ private slots:
                                               "luego presionar ENTER"));
         QCOMPARE(state(), QStringLiteral("3 datos"));
         const auto& right = *strip.findChild<ElidedLabel*>("estado");
-        QCOMPARE(panel.x(), 0);
-        QCOMPARE(right.geometry().right(), strip.rect().right());
+        // In line with the content above.
+        const int margin = style::unit() + style::halfUnit();
+        QCOMPARE(panel.x(), margin);
+        QCOMPARE(right.geometry().right(), strip.rect().right() - margin);
         QVERIFY(panel.geometry().right() < right.x());
         QCOMPARE(pixel(strip, {0, 0}), style::lines());
         QCOMPARE(pixel(strip, {strip.width() - 1, 0}), style::lines());
