@@ -9,8 +9,10 @@ namespace caudalera::viewer {
 namespace {
 
 QString plain(QString html) {
-    static const QRegularExpression head(QStringLiteral("<head>.*</head>"),
-                                         QRegularExpression::DotMatchesEverythingOption);
+    // The title stands apart, and the links at the foot are the next pages' words.
+    static const QRegularExpression head(
+        QStringLiteral("<head>.*</head>|<h1>.*</h1>|<p class=\"foot\">.*</p>"),
+        QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression block(
         QStringLiteral("</?(p|h[1-6]|li|ul|ol|tr|td|th|table|br|hr)\\b[^>]*>"));
     static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
@@ -35,7 +37,9 @@ QString excerptAround(const QString& text, const Place& place) {
     // From a whole word on.
     if (begin > 0)
         begin = std::max(text.indexOf(QLatin1Char(' '), begin) + 1, qsizetype(0));
-    const qsizetype end = std::min(place.at + place.length + around, text.size());
+    qsizetype end = std::min(place.at + place.length + around, text.size());
+    if (end < text.size())
+        end = std::max(text.lastIndexOf(QLatin1Char(' '), end), place.at + place.length);
     return (begin > 0 ? QStringLiteral("… ") : QString()) + text.mid(begin, end - begin) +
            (end < text.size() ? QStringLiteral(" …") : QString());
 }
@@ -83,13 +87,15 @@ QList<HelpSearch::Hit> HelpSearch::find(const QString& query) const {
     QList<Hit> hits;
     for (const Text& each : texts_) {
         const bool all = std::all_of(words.begin(), words.end(), [&](const QString& word) {
-            return !placesOf(each.text, {word}).isEmpty();
+            return !placesOf(each.text, {word}).isEmpty() ||
+                   !placesOf(each.title, {word}).isEmpty();
         });
         if (words.isEmpty() || !all)
             continue;
         const QList<Place> places = placesOf(each.text, words);
         const auto inTitle = static_cast<int>(placesOf(each.title, words).size());
-        hits.append({each.page, each.title, excerptAround(each.text, places.front()),
+        hits.append({each.page, each.title,
+                     excerptAround(each.text, places.isEmpty() ? Place() : places.front()),
                      static_cast<int>(places.size()) + titleWeight * inTitle});
     }
     std::stable_sort(hits.begin(), hits.end(),

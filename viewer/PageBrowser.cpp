@@ -4,9 +4,9 @@
 
 #include <QDesktopServices>
 #include <QImage>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace caudalera::viewer {
 
@@ -15,14 +15,7 @@ PageBrowser::PageBrowser(const ChmFile& file, QWidget* parent) : QTextBrowser(pa
     document()->setDocumentMargin(fontMetrics().height());
     refit_.setSingleShot(true);
     refit_.setInterval(150);
-    connect(&refit_, &QTimer::timeout, this, [this] {
-        if (fittedWidth_ == viewport()->width() || page().isEmpty())
-            return;
-        const int at = verticalScrollBar()->value();
-        document()->clear();
-        reload();
-        verticalScrollBar()->setValue(at);
-    });
+    connect(&refit_, &QTimer::timeout, this, &PageBrowser::fitPictures);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         const QUrl target = source().resolved(link);
         if (target.scheme() == QLatin1String("chm")) {
@@ -70,21 +63,41 @@ void PageBrowser::mark(const QStringList& words) {
     }
 }
 
-QVariant PageBrowser::loadResource(int type, const QUrl& name) {
-    const QByteArray bytes = file_.read(source().resolved(name).path());
-    if (type == QTextDocument::ImageResource)
-        return image(bytes);
-    return QString::fromUtf8(bytes);
+void PageBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+    pictures_.clear();
+    QTextBrowser::doSetSource(name, type);
+    // The document remembers those of an earlier visit, at the width of then.
+    fittedWidth_ = 0;
+    fitPictures();
 }
 
-QImage PageBrowser::image(const QByteArray& bytes) const {
-    QImage picture = QImage::fromData(bytes);
+QVariant PageBrowser::loadResource(int type, const QUrl& name) {
+    const QString path = source().resolved(name).path();
+    if (type != QTextDocument::ImageResource)
+        return QString::fromUtf8(file_.read(path));
+    pictures_.insert(name, path);
+    return picture(path);
+}
+
+int PageBrowser::widestPicture() const {
     // The page has margins within those of the document, and a bar may come beside it.
-    const int width = viewport()->width() - 9 * fontMetrics().height();
-    const_cast<PageBrowser*>(this)->fittedWidth_ = viewport()->width();
-    if (width > 0 && picture.width() > width)
-        picture = picture.scaledToWidth(width, Qt::SmoothTransformation);
-    return picture;
+    return std::max(width() - 9 * fontMetrics().height(), 1);
+}
+
+QImage PageBrowser::picture(const QString& path) const {
+    const QImage whole = QImage::fromData(file_.read(path));
+    return whole.width() <= widestPicture()
+               ? whole
+               : whole.scaledToWidth(widestPicture(), Qt::SmoothTransformation);
+}
+
+void PageBrowser::fitPictures() {
+    if (fittedWidth_ == widestPicture())
+        return;
+    fittedWidth_ = widestPicture();
+    for (auto each = pictures_.cbegin(); each != pictures_.cend(); ++each)
+        document()->addResource(QTextDocument::ImageResource, each.key(), picture(each.value()));
+    document()->markContentsDirty(0, document()->characterCount());
 }
 
 void PageBrowser::resizeEvent(QResizeEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "viewer/ChmFile.h"
 
+#include <QHash>
 #include <QTextBrowser>
 #include <QTimer>
 
@@ -26,15 +27,22 @@ signals:
     void pageChanged();
 
 protected:
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    QImage image(const QByteArray& bytes) const;
+    /// The picture at a path of the file, no wider than the page.
+    QImage picture(const QString& path) const;
+    int widestPicture() const;
+    /// Gives the pictures of the page the room that there is now.
+    void fitPictures();
 
     const ChmFile& file_;
     QString page_;
-    /// Pictures get the new width once the user has stopped dragging.
+    /// The page's pictures, by the names that the document knows them by.
+    QHash<QUrl, QString> pictures_;
+    /// They get the new width once the user has stopped dragging.
     QTimer refit_;
     int fittedWidth_ = 0;
 };

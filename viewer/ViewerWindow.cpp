@@ -1,6 +1,7 @@
 #include "viewer/ViewerWindow.h"
 
 #include "desktop/style/Style.h"
+#include "viewer/HitDelegate.h"
 #include "viewer/SiteMap.h"
 
 #include <QAction>
@@ -190,6 +191,9 @@ QWidget* ViewerWindow::indexPane() {
 QWidget* ViewerWindow::searchPane() {
     query_ = fieldOf("query", QStringLiteral("Palabras que se buscan"));
     hits_ = listOf("hits", QStringLiteral("Páginas halladas"));
+    hits_->setItemDelegate(new HitDelegate(hits_));
+    hits_->setResizeMode(QListView::Adjust);
+    hits_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(query_, &QLineEdit::textChanged, this, &ViewerWindow::search);
     connect(query_, &QLineEdit::returnPressed, this, [this] { showHit(0); });
     connect(hits_, &QListWidget::itemClicked, this, [this] { showHit(hits_->currentRow()); });
@@ -228,8 +232,9 @@ void ViewerWindow::search() {
     hits_->clear();
     const auto found = search_.find(query_->text());
     for (const HelpSearch::Hit& hit : found) {
-        auto* item = new QListWidgetItem(hit.title + QLatin1Char('\n') + hit.excerpt, hits_);
+        auto* item = new QListWidgetItem(hit.title, hits_);
         item->setData(pageRole, hit.page);
+        item->setData(HitDelegate::excerptRole, hit.excerpt);
     }
     if (found.isEmpty() && !queryWords(query_->text()).isEmpty()) {
         auto* none =

@@ -93,6 +93,10 @@ Step stepOf(const std::string& line) {
     return step;
 }
 
+bool looksLikeNumber(const std::string& text) {
+    return text.find_first_not_of("0123456789.+- ") == text.npos;
+}
+
 std::string bold(const std::string& text) {
     return "<b>" + escaped(text) + "</b>";
 }
@@ -171,7 +175,8 @@ private:
             html_ += "\n<table class=\"results\">\n";
         inTable_ = true;
         const std::string unit = step.unit.empty() ? "" : " " + escaped(step.unit);
-        html_ += "<tr><td>" + escaped(step.caption) + "</td><td class=\"number\">" +
+        const char* const kind = looksLikeNumber(step.value()) ? "number" : "text";
+        html_ += "<tr><td>" + escaped(step.caption) + "</td><td class=\"" + kind + "\">" +
                  escaped(step.value()) + unit + "</td></tr>\n";
     }
 

@@ -67,8 +67,8 @@ public:
 
     virtual std::string clipboardText() = 0;
     virtual void setClipboardText(const std::string& text) = 0;
-    /// The clipboard of rich text, as RTF source or plain text. A platform whose clipboard has forms
-    /// of its own for rich text puts it there as well; otherwise the source is the text.
+    /// The clipboard of rich text, as RTF source or plain text. A platform whose clipboard has
+    /// forms of its own for rich text puts it there as well; otherwise the source is the text.
     virtual std::string clipboardRichText() { return clipboardText(); }
     virtual void setClipboardRichText(const std::string& rtf) { setClipboardText(rtf); }
 

@@ -41,6 +41,7 @@ TEST(Example, AStepThatIsNotKnownIsRefused) {
 TEST(Example, ResultsStandBelowTheStepThatShowsThem) {
     EXPECT_EQ(exampleHtml(parseExample("pulsar bCalcular Calcular\n"
                                        "resultado txtxm \"Media <x>\" 1.5 m3/s\n"
+                                       "resultado lblmensaje Ajuste \"Se ajustan\"\n"
                                        "escribir txtt T 100\n"
                                        "fila grdt 1 2\n"
                                        "fila grdt 3 4\n")),
@@ -48,6 +49,7 @@ TEST(Example, ResultsStandBelowTheStepThatShowsThem) {
               "<li>Pulse <b>Calcular</b>.\n"
               "<table class=\"results\">\n"
               "<tr><td>Media &lt;x&gt;</td><td class=\"number\">1.5 m3/s</td></tr>\n"
+              "<tr><td>Ajuste</td><td class=\"text\">Se ajustan</td></tr>\n"
               "</table>\n"
               "</li>\n"
               "<li>Escriba <code>100</code> en <b>T</b>.</li>\n"
