@@ -22,12 +22,18 @@ void GridView::typeText(const QString& text) {
     });
 }
 
-void GridView::travel(bool (GridHistory::*way)()) {
+void GridView::travel(Way way) {
     session_.act([&] {
         Program& program = session_.program();
         // What stands in an open box becomes a change first.
         program.focus(grid_);
-        program.act([&] { (grid_.history->*way)(); });
+        program.act([&] {
+            if (way == Way::back) {
+                grid_.history->undo();
+            } else {
+                grid_.history->redo();
+            }
+        });
     });
 }
 
@@ -38,7 +44,7 @@ bool GridView::travelByKey(QKeyEvent& event) {
         // A key that came before the box had the keyboard.
         QApplication::sendEvent(editor_, &event);
     } else {
-        travel(isUndo(event) ? &GridHistory::undo : &GridHistory::redo);
+        travel(isUndo(event) ? Way::back : Way::again);
     }
     return true;
 }

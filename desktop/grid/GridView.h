@@ -60,7 +60,8 @@ private:
 
     void typeText(const QString& text);
     /// Takes the last change of the data back, or brings it again.
-    void travel(bool (GridHistory::*way)());
+    enum class Way { back, again };
+    void travel(Way way);
     /// Whether the key is one of taking back and bringing again.
     bool travelByKey(QKeyEvent& event);
     /// Moves the current cell, or with Shift the other end of the selection, as far as it can go.
