@@ -20,7 +20,7 @@ double luminance(const QColor& color) {
            0.0722 * linear(color.blueF());
 }
 double ratio(const QColor& a, const QColor& b) {
-    const auto [dark, light] = std::minmax(luminance(a), luminance(b));
+    const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
     return (light + 0.05) / (dark + 0.05);
 }
 
