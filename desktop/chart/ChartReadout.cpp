@@ -30,10 +30,11 @@ bool ChartReadout::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove) {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
         pointer_ = mouse.position().toPoint();
-        if (mouse.buttons() == Qt::NoButton)
+        if (mouse.buttons() == Qt::NoButton) {
             follow();
-        else
+        } else {
             hide();
+        }
     } else if (event->type() == QEvent::Leave || event->type() == QEvent::Hide) {
         hide();
     }
@@ -77,6 +78,7 @@ std::vector<QRect> ChartReadout::corners() const {
         QRect({right, bottom}, size), QRect({inner.left(), inner.top()}, size),
         QRect({right, inner.top()}, size), QRect({inner.left(), bottom}, size)};
     std::vector<std::pair<double, QRect>> ranked;
+    ranked.reserve(all.size());
     for (const QRect& corner : all)
         ranked.emplace_back(clearance(corner), corner);
     std::stable_sort(ranked.begin(), ranked.end(),

@@ -332,10 +332,11 @@ void ChartView::changeEvent(QEvent* event) {
 void ChartView::keyPressEvent(QKeyEvent* event) {
     const bool menuKey = event->key() == Qt::Key_Menu ||
                          (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-    if (menuKey)
+    if (menuKey) {
         openMenu(plot_->rect().center());
-    else if (!navigation_->takeKey(*event))
+    } else if (!navigation_->takeKey(*event)) {
         QWidget::keyPressEvent(event);
+    }
 }
 
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {

@@ -40,8 +40,13 @@ CommandButton::CommandButton(Session& session, Button& button, QWidget* parent)
     }
     showIcon(false);
     sync();
-    connect(this, &QPushButton::clicked, this,
-            [this] { session_.act([this] { session_.program().click(button_); }); });
+    connect(this, &QPushButton::clicked, this, [this] {
+        // An access key presses without taking the keyboard: what had it is left first, as a click
+        // of the mouse leaves it.
+        if (!hasFocus())
+            setFocus(Qt::ShortcutFocusReason);
+        session_.act([this] { session_.program().click(button_); });
+    });
 }
 
 void CommandButton::sync() {

@@ -240,8 +240,18 @@ void FieldEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 void FieldEdit::pasteText(const QString& text) {
     const auto read = pastedIntoField(text, *this);
-    if (read)
-        act([&](Program& program) { program.pasteText(box_, read->toStdString()); });
+    if (!read)
+        return;
+    const std::string before = box_.text();
+    act([&](Program& program) { program.pasteText(box_, read->toStdString()); });
+    const bool refused = box_.acceptable && !text.trimmed().isEmpty() && box_.text() == before &&
+                         !box_.acceptable(read->toStdString());
+    if (refused) {
+        constexpr int longest = 30;
+        const QString shown = fontMetrics().elidedText(text.simplified(), Qt::ElideRight,
+                                                       longest * fontMetrics().averageCharWidth());
+        showNote(*this, rect(), QStringLiteral("No se pegó nada: «%1» no es un número").arg(shown));
+    }
 }
 
 void FieldEdit::mouseReleaseEvent(QMouseEvent* event) {

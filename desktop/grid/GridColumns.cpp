@@ -29,11 +29,9 @@ int GridColumns::titleWidth(int col) const {
     int width = 0;
     for (const QString& line : title.split(u'\n'))
         width = std::max(width, view_.fontMetrics().horizontalAdvance(line));
-    // The mark of the row where one types is there from the beginning.
-    if (col < grid_.FixedCols() && model_.rowCount() > 0) {
-        const QString mark = model_.index(model_.rowCount() - 1, col).data().toString();
-        width = std::max(width, view_.fontMetrics().horizontalAdvance(mark));
-    }
+    // The widest mark of the row where one types has its room from the beginning.
+    if (col < grid_.FixedCols() && grid_.editor)
+        width = std::max(width, view_.fontMetrics().horizontalAdvance(QStringLiteral("[->]")));
     return withSides(width);
 }
 

@@ -155,17 +155,25 @@ int GridView::heightOf(int rows) const {
            2 * frameWidth() + 2 + bar;
 }
 
+int GridView::shownRows() const {
+    const int rows = model_.filledRows() > 0 ? model_.filledRows() : model_.rowCount();
+    return std::max(grid_.visibleRows, rows);
+}
+
 int GridView::wantedRows() const {
     // Results of a few rows, twelve months say, are seen at a glance.
     constexpr int few = 14;
-    return !editor_ && model_.rowCount() <= few ? std::max(grid_.visibleRows, model_.rowCount())
-                                                : grid_.visibleRows;
+    return !editor_ && shownRows() <= few ? shownRows() : grid_.visibleRows;
+}
+
+int GridView::lackingWidth() const {
+    return isVisible() ? std::max(horizontalHeader()->length() - viewport()->width(), 0) : 0;
 }
 
 void GridView::limitHeight() {
     // Results are not shown on more ground than they fill.
     if (!editor_)
-        setMaximumHeight(heightOf(std::max(grid_.visibleRows, model_.rowCount())));
+        setMaximumHeight(heightOf(shownRows()));
 }
 
 int GridView::sides() const {

@@ -23,6 +23,11 @@ class GridView : public QTableView {
 public:
     GridView(Session& session, MSFlexGrid& grid, QWidget* parent);
 
+    /// Takes back or brings again a change of the data if the key says so; whether it does.
+    bool travelByKey(QKeyEvent& event);
+    /// What the columns take more than there is room for.
+    int lackingWidth() const;
+
     void sync();
     /// nullptr for a grid that can't be edited.
     GridEditor* editor() const { return editor_; }
@@ -62,8 +67,6 @@ private:
     /// Takes the last change of the data back, or brings it again.
     enum class Way { back, again };
     void travel(Way way);
-    /// Whether the key is one of taking back and bringing again.
-    bool travelByKey(QKeyEvent& event);
     /// Moves the current cell, or with Shift the other end of the selection, as far as it can go.
     void step(long rows, long cols, bool selecting);
     void moveTo(Cell cell, bool selecting);
@@ -75,6 +78,8 @@ private:
     /// As high as its lines of titles.
     void fitHeader();
     int heightOf(int rows) const;
+    /// Rows that there is something to see in, at least those that the grid shows at any rate.
+    int shownRows() const;
     /// Rows that it asks room for.
     int wantedRows() const;
     void limitHeight();

@@ -178,8 +178,10 @@ void ReportWindow::confirmSaving(const MenuEntry& entry) {
         return;
     // Without a dialog the document went to its own file.
     const std::string path = chosen.value_or(padre_.active()->caption);
+    // What was done a while ago must not hide the panel behind it.
+    constexpr int shownFor = 10000;
     if (!path.empty())
-        statusBar()->showMessage(QStringLiteral("Guardado: %1").arg(toQString(path)));
+        statusBar()->showMessage(QStringLiteral("Guardado: %1").arg(toQString(path)), shownFor);
 }
 
 void ReportWindow::place() {

@@ -125,7 +125,7 @@ std::string fromClipboard(const QMimeData& clipboard) {
         if (looksLikeRtf(source))
             return source;
     }
-    const std::string plain = clipboard.text().toStdString();
+    std::string plain = clipboard.text().toStdString();
     if (!clipboard.hasHtml() || looksLikeRtf(plain))
         return plain;
     const QString html = clipboard.html();

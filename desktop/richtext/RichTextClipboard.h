@@ -1,10 +1,8 @@
 #pragma once
 
+#include <QMimeData>
 #include <memory>
 #include <string>
-
-class QMimeData;
-class QString;
 
 namespace caudalera::richtext {
 

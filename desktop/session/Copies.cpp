@@ -232,9 +232,10 @@ private:
 
 QString Copies::words() const {
     QStringList parts;
-    if (!folder.isEmpty())
+    if (!folder.isEmpty()) {
         parts.append(QStringLiteral("Hay una copia de lo que estaba abierto en:\n%1")
                          .arg(QDir::toNativeSeparators(folder)));
+    }
     if (!failures.isEmpty())
         parts.append(QStringLiteral("No se pudo copiar:\n%1").arg(failures.join(u'\n')));
     return parts.join(QStringLiteral("\n\n"));

@@ -1,5 +1,7 @@
 #include "desktop/style/Style.h"
 
+#include "desktop/style/ProgramStyle.h"
+
 #include "desktop/style/FocusRing.h"
 
 #include <QApplication>
@@ -7,7 +9,6 @@
 #include <QFontMetrics>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 #include <algorithm>
 #include <array>
 
@@ -105,7 +106,7 @@ QString drawingPath(const QString& name) {
 
 void apply(QApplication& application) {
     loadDrawings();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ProgramStyle);
 
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(ground));

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QTabWidget>
+#include <QTableView>
 #include <algorithm>
 
 namespace caudalera {
@@ -86,19 +87,23 @@ void lineUp(const std::vector<QGridLayout*>& blocks) {
     }
 }
 
-/// Frames side by side end on one line; but one that holds much less than what is beside it does
-/// not stretch around nothing.
-void hugContent(QBoxLayout& row) {
-    constexpr double muchLess = 0.75;
-    int highest = 0;
-    for (int i = 0; i < row.count(); ++i)
-        highest = std::max(highest, row.itemAt(i)->sizeHint().height());
-    for (int i = 0; i < row.count(); ++i) {
-        QLayoutItem& item = *row.itemAt(i);
-        if (qobject_cast<QGroupBox*>(item.widget()) &&
-            item.widget()->sizePolicy().verticalPolicy() != QSizePolicy::Expanding &&
-            item.sizeHint().height() < muchLess * highest)
-            item.setAlignment(Qt::AlignTop);
+/// Frames beside or below each other end on one line; but one that holds much less than the largest
+/// does not stretch around nothing.
+void hugContent(QBoxLayout& box) {
+    const bool upright = box.direction() == QBoxLayout::TopToBottom;
+    const double muchLess = upright ? 0.66 : 0.75;
+    const auto across = [&](const QLayoutItem& item) {
+        return upright ? item.sizeHint().width() : item.sizeHint().height();
+    };
+    int largest = 0;
+    for (int i = 0; i < box.count(); ++i)
+        largest = std::max(largest, across(*box.itemAt(i)));
+    for (int i = 0; i < box.count(); ++i) {
+        QLayoutItem& item = *box.itemAt(i);
+        const auto* frame = qobject_cast<QGroupBox*>(item.widget());
+        if (frame && !item.alignment() && !frame->findChild<QTableView*>() &&
+            across(item) < muchLess * largest)
+            item.setAlignment(upright ? Qt::AlignLeft : Qt::AlignTop);
     }
 }
 
@@ -178,8 +183,7 @@ QBoxLayout* LayoutBuilder::box(const Layout& layout, bool upright, FieldBlocks& 
             lineUp(own);
         }
     }
-    if (!upright)
-        hugContent(*box);
+    hugContent(*box);
     if (!hasStretch(layout)) {
         box->addStretch(1);
     } else if (upright) {

@@ -103,6 +103,14 @@ void centreOn(QWidget& window, const QWidget* opener) {
     moveFrame(window, within(screen, size, corner), opener);
 }
 
+void bringOnScreen(QWidget& window) {
+    const QRect screen = window.screen()->availableGeometry();
+    const QRect frame = window.frameGeometry();
+    const QPoint corner = within(screen, frame.size(), frame.topLeft());
+    if (corner != frame.topLeft())
+        window.move(corner);
+}
+
 void standBeside(QWidget& window, const QWidget& opener) {
     const QRect screen = opener.screen()->availableGeometry();
     const QRect beside = opener.frameGeometry();

@@ -18,6 +18,9 @@ QSize largestFirstSize(const QWidget& window);
 /// if that is nullptr; wholly on the screen in any case.
 void centreOn(QWidget& window, const QWidget* opener);
 
+/// Moves a window that has grown back onto the screen, if it reaches beyond.
+void bringOnScreen(QWidget& window);
+
 /// Moves a window that is not shown yet beside the one it came from. Where the screen has no room
 /// there it comes to stand where it hides the least of what the other one is worked with.
 void standBeside(QWidget& window, const QWidget& opener);

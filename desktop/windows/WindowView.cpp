@@ -107,6 +107,7 @@ void WindowView::takeFirstPlace() {
     const QSize around = layout()->totalSizeHint() - content;
     const QSize wanted = content.expandedTo(smallest) + around;
     resize(content_->bounded(wanted, placement::largestFirstSize(*this)));
+    ownSize_ = size();
     const QWidget* opener = QApplication::activeWindow();
     placement::centreOn(*this, opener ? opener->window() : nullptr);
 }
@@ -118,6 +119,26 @@ void WindowView::sync() {
         view->sync();
     staleDress_.sync(window_.staleResults());
     syncFocus();
+    growForResults();
+}
+
+void WindowView::growForResults() {
+    // The user's own size is his.
+    if (!isVisible() || size() != ownSize_ || windowState() != Qt::WindowNoState)
+        return;
+    int lacking = 0;
+    for (const auto& view : views_.all()) {
+        if (const auto* grid = dynamic_cast<GridControlView*>(view.get()))
+            lacking = std::max(lacking, grid->view().lackingWidth());
+    }
+    const int width =
+        std::min(size().width() + lacking,
+                 std::max(placement::largestFirstSize(*this).width(), size().width()));
+    if (width == size().width())
+        return;
+    resize(width, height());
+    ownSize_ = size();
+    placement::bringOnScreen(*this);
 }
 
 void WindowView::syncFocus() {
@@ -148,9 +169,19 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
                      window_.commands.front().buttons.front() == window_.mainAction;
     if (event->key() == Qt::Key_Escape && box) {
         session_.act([this] { session_.program().click(*window_.mainAction); });
-    } else {
+    } else if (!undoneByKey(*event)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+bool WindowView::undoneByKey(QKeyEvent& event) {
+    // The keyboard may be at the command that changed the data.
+    for (const auto& view : views_.all()) {
+        auto* grid = dynamic_cast<GridControlView*>(view.get());
+        if (grid && grid->view().isVisible() && grid->view().travelByKey(event))
+            return true;
+    }
+    return false;
 }
 
 void WindowView::closeEvent(QCloseEvent* event) {

@@ -37,6 +37,11 @@ private:
     void build();
     void orderFocus();
     void syncFocus();
+    /// Widens the window, as far as its first size may go, for results that are wider than their
+    /// titles.
+    void growForResults();
+    /// Whether the key takes back or brings again a change of the data.
+    bool undoneByKey(QKeyEvent& event);
     /// Brings forward the tabs that a widget stands on, with no event: nobody has chosen them.
     void bringForward(const QWidget& widget);
     /// The user has brought the keyboard to a widget.
@@ -54,6 +59,8 @@ private:
     ViewSet views_;
     StaleDress staleDress_;
     ContentArea* content_ = nullptr;
+    /// As it was opened or has grown since, as long as the user leaves it so.
+    QSize ownSize_;
     std::vector<Focusable> focusChain_;
 };
 

@@ -77,8 +77,8 @@ TEST(ThornthwaiteMethod, ComesToAPublishedWarmYear) {
     EXPECT_NEAR(sum, 787.48, 0.05);
 }
 
-// Issue 68 of the repository of the R package SPEI: three months alone at 41.47 N, I from these
-// three, hours by the declination 0.4093 sin(2 pi J / 365 - 1.405) on the days 15, 46, 74.
+// From the discussion of the R package SPEI by its users: three months alone at 41.47 N, I from
+// these three, hours by the declination 0.4093 sin(2 pi J / 365 - 1.405) on the days 15, 46, 74.
 TEST(ThornthwaiteMethod, ComesToThePublishedMonthsOfAnotherProgram) {
     const double latitude = 41.47 * std::numbers::pi / 180;
     Months N;

@@ -123,6 +123,16 @@ private slots:
         QCOMPARE(shown(), after);
     }
 
+    void aPasteThatANumberFieldRefusesSaysSo() {
+        use("frmQmaxRacional", "txtaq");
+        paste("12.5");
+        QVERIFY(!QToolTip::isVisible());
+        paste("abc");
+        QCOMPARE(shown(), QStringLiteral("12.5"));
+        QCOMPARE(QToolTip::text(), QStringLiteral("No se pegó nada: «abc» no es un número"));
+        QToolTip::hideText();
+    }
+
     void aNumberFieldTakesAnInputMethodsTextWholeOrNotAtAll() {
         use("frmQmaxRacional", "txtaq");
         for (const char* refused : {"0,45", "1.2.3", "a1"}) {

@@ -252,8 +252,8 @@ private slots:
     }
 
     void captionsFollowTheModel() {
-        on->session->act([this] { on->padre().active()->caption = "/tmp/informe.RTF"; });
-        QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("/tmp/informe.RTF"));
+        on->session->act([this] { on->padre().active()->caption = "/a/informe.RTF"; });
+        QCOMPARE(on->area()->currentSubWindow()->windowTitle(), QStringLiteral("/a/informe.RTF"));
     }
 
     void theFirstTimeItStandsWhereTheDefaultsSay() {

@@ -2,11 +2,13 @@
 #include "desktop/style/Style.h"
 #include "recording/RecordingPlatform.h"
 
+#include <QApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QSet>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QTest>
 
@@ -35,6 +37,27 @@ class ArtworkTest : public QObject {
 
 private slots:
     void initTestCase() { style::apply(*qApp); }
+
+    void boxesAndDialogsHaveIconsOfTheFamily() {
+        const std::pair<QStyle::StandardPixmap, const char*> ours[] = {
+            {QStyle::SP_MessageBoxInformation, "Informacion"},
+            {QStyle::SP_MessageBoxWarning, "Advertencia"},
+            {QStyle::SP_MessageBoxCritical, "Fallo"},
+            {QStyle::SP_MessageBoxQuestion, "Pregunta"},
+            {QStyle::SP_ArrowBack, "Atras"},
+            {QStyle::SP_ArrowForward, "Adelante"},
+            {QStyle::SP_FileDialogToParent, "Subir"},
+            {QStyle::SP_FileDialogNewFolder, "CarpetaNueva"},
+            {QStyle::SP_FileDialogListView, "Lista"},
+            {QStyle::SP_FileDialogDetailedView, "Detalles"},
+        };
+        for (const auto& [which, name] : ours) {
+            const QImage shown =
+                QApplication::style()->standardIcon(which).pixmap(48, 48).toImage();
+            QVERIFY2(!shown.isNull(), name);
+            QCOMPARE(shown, style::icon(QString::fromUtf8(name)).pixmap(48, 48).toImage());
+        }
+    }
 
     void everyDrawingLoadsAndDraws_data() {
         QTest::addColumn<QString>("path");

@@ -117,6 +117,31 @@ private slots:
                  qPrintable(QString::number(off.y())));
     }
 
+    void resultsThatAreWiderThanTheirTitlesWidenTheWindow() {
+        if (!everythingFits())
+            return;
+        DesktopFixture desktop;
+        desktop.open("frmQmaxNash");
+        QWidget& view = desktop.view();
+        const QSize before = view.size();
+        const auto calculate = [&] {
+            desktop.typeValues({"212345.678", "198765.432", "154321.987", "187654.321"});
+            desktop.widget<QLineEdit>("txtTdato").setFocus();
+            DesktopFixture::type("100");
+            desktop.clickButton("bCalcular");
+            settle();
+        };
+        calculate();
+        QVERIFY(view.width() > before.width());
+        QCOMPARE(view.height(), before.height());
+        QVERIFY(view.width() <= screenSize().width() * 9 / 10 + 1);
+        QVERIFY(view.screen()->availableGeometry().contains(view.frameGeometry()));
+        // The user's own size stays.
+        view.resize(before + QSize(3, 0));
+        calculate();
+        QCOMPARE(view.size(), before + QSize(3, 0));
+    }
+
     /// The command that is farthest down the content, by the keyboard alone.
     void whatTheKeyboardComesToComesIntoSight() {
         DesktopFixture desktop;

@@ -250,6 +250,15 @@ private slots:
         QCOMPARE(listText("cobMes"), QStringLiteral("Mayo"));
         QCOMPARE(QApplication::focusWidget(), &desktop_->widget<QLineEdit>("txtLatitud"));
         QCOMPARE(desktop_->window().focus(), &desktop_->control<TextBox>("txtLatitud"));
+        // An access key leaves it, too, before its command runs.
+        type("junio");
+        QString listWhenCleared;
+        desktop_->control<Button>("bLimpiar").onClick = [&] {
+            listWhenCleared = listText("cobMes");
+        };
+        QTest::keyClick(desktop_->view().windowHandle(), Qt::Key_L, Qt::AltModifier);
+        QTRY_COMPARE(listWhenCleared, QStringLiteral("Junio"));
+        QCOMPARE(QApplication::focusWidget(), &desktop_->widget<QWidget>("bLimpiar"));
         // No other text is changed.
         type("may");
         desktop_->press(Qt::Key_Tab);
