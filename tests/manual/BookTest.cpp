@@ -53,6 +53,13 @@ TEST_F(BookTest, LinksLeadToPagesAndHeadings) {
     EXPECT_EQ(html("normal").find("campana"), std::string::npos);
 }
 
+TEST_F(BookTest, HeadingsAreNamedInSmallLettersWithoutAccents) {
+    write("pages/normal.md",
+          "# Distribución\n\n## Fórmulas\n\n## ¿Az, ñu y 0 o 9?: ¡ÁÉÍÓÚ ZA üéíúá!\n");
+    EXPECT_EQ(book().pages.at("normal").anchors,
+              (std::vector<std::string>{"formulas", "az-nu-y-0-o-9-aeiou-za-ueiua"}));
+}
+
 TEST_F(BookTest, TheFirstPageListsTheContents) {
     EXPECT_NE(html("inicio").find("<ul>\n<li>Distribuciones<ul>\n"
                                   "<li><a href=\"normal.html\">Distribución</a></li>\n"

@@ -31,6 +31,8 @@ TEST(Formula, AFractionStandsOverItsDenominator) {
 TEST(Formula, AFractionWithinAGroupHasASlashAndTheBracketsThatItNeeds) {
     EXPECT_EQ(formulaHtml("\\sqrt{\\frac{a + b}{n}}"),
               "<p class=\"formula\">√((<i>a</i> + <i>b</i>)/<i>n</i>)</p>\n");
+    EXPECT_EQ(formulaHtml("\\sqrt{\\frac{2 + a}{3}}"),
+              "<p class=\"formula\">√((2 + <i>a</i>)/3)</p>\n");
     EXPECT_EQ(formulaHtml("\\sqrt{\\frac{a}{n - 1}}"),
               "<p class=\"formula\">√(<i>a</i>/(<i>n</i> − 1))</p>\n");
 }
