@@ -39,7 +39,7 @@ Real gammaIncompleta(Real a, Real x, Real G) {
 
 namespace {
 
-/// The next x of the search, from one with P(a, x) = F.
+/// The next x of the search, from one with P(a, x) = F: the steps are shares of x.
 Real siguiente(Real x, Real p, Real F) {
     if (p < 0.8)
         return x * Pow(p / F, 1.0 / 3);
@@ -49,7 +49,7 @@ Real siguiente(Real x, Real p, Real F) {
     } else if (p < 0.995) {
         paso = 0.01;
     }
-    return x - paso * Log((1 - p) / (1 - F));
+    return x - paso * x * Log((1 - p) / (1 - F));
 }
 
 } // namespace
