@@ -29,9 +29,12 @@ int GridColumns::titleWidth(int col) const {
     int width = 0;
     for (const QString& line : title.split(u'\n'))
         width = std::max(width, view_.fontMetrics().horizontalAdvance(line));
-    // The widest mark of the row where one types has its room from the beginning.
-    if (col < grid_.FixedCols() && grid_.editor)
-        width = std::max(width, view_.fontMetrics().horizontalAdvance(QStringLiteral("[->]")));
+    // The numbers of the rows to come have their room from the beginning, and the widest mark of
+    // the row where one types.
+    if (col < grid_.FixedCols() && grid_.editor) {
+        for (const char* label : {"[->]", "9999"})
+            width = std::max(width, view_.fontMetrics().horizontalAdvance(QLatin1String(label)));
+    }
     return withSides(width);
 }
 
