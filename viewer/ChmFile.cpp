@@ -65,7 +65,7 @@ QStringList ChmFile::pages() const {
 }
 
 void ChmFile::readSystem() {
-    enum Code { contents, index, firstTopic, title };
+    enum Code { contentsEntry, indexEntry, firstPageEntry, titleEntry };
     // A version, then entries of a code, a length and as many bytes.
     const QByteArray system = read(QStringLiteral("/#SYSTEM"));
     qsizetype at = 4;
@@ -75,13 +75,13 @@ void ChmFile::readSystem() {
         at += 4;
         // Texts end with a zero byte.
         const QString text = QString::fromLatin1(system.mid(at, length).constData());
-        if (code == contents) {
+        if (code == contentsEntry) {
             contentsFile_ = QLatin1Char('/') + text;
-        } else if (code == index) {
+        } else if (code == indexEntry) {
             indexFile_ = QLatin1Char('/') + text;
-        } else if (code == firstTopic) {
+        } else if (code == firstPageEntry) {
             firstPage_ = QLatin1Char('/') + text;
-        } else if (code == title) {
+        } else if (code == titleEntry) {
             title_ = text;
         }
         at += length;

@@ -248,10 +248,11 @@ void ChartNavigation::wheel(const QWheelEvent& event) {
     const QRect inner = plot_.axisRect()->rect();
     const QPointF at = event.position();
     Qt::Orientations along = Qt::Horizontal | Qt::Vertical;
-    if (at.x() < inner.left())
+    if (at.x() < inner.left()) {
         along = Qt::Vertical;
-    else if (at.y() > inner.bottom())
+    } else if (at.y() > inner.bottom()) {
         along = Qt::Horizontal;
+    }
     zoom(std::pow(zoomStep, event.angleDelta().y() / notch), at, along);
 }
 

@@ -27,15 +27,16 @@ void checkLink(const Book& book, const Page& page, const std::string& link) {
 }
 
 void check(const Book& book, const std::filesystem::path& folder) {
-    for (const auto& [name, page] : book.pages) {
+    for (const auto& named : book.pages) {
+        const Page& page = named.second;
         if (std::none_of(book.contents.begin(), book.contents.end(),
                          [&](const Entry& entry) { return entry.page == page.name; }))
-            throw std::runtime_error(name + ".md is not in the contents");
+            throw std::runtime_error(page.name + ".md is not in the contents");
         for (const std::string& link : page.links)
             checkLink(book, page, link);
         for (const std::string& picture : page.pictures) {
             if (!std::filesystem::exists(folder / "pictures" / picture))
-                throw std::runtime_error(name + ".md: there is no picture " + picture);
+                throw std::runtime_error("there is no picture for " + page.name + ": " + picture);
         }
     }
 }

@@ -90,7 +90,7 @@ std::string ExamplePlayer::shown(const Control& control) {
 }
 
 std::string ExamplePlayer::act(const Step& step, Control& control) {
-    const std::string wrong = "not possible at " + step.control;
+    std::string wrong = "not possible at " + step.control;
     switch (step.kind) {
     case Step::Kind::load:
         answerFile_(step.value());

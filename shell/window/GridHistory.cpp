@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t byteLimit = 24U << 20U;
 
 std::size_t bytesOf(const std::string& text) {
-    return sizeof text + text.capacity();
+    return sizeof(std::string) + text.capacity();
 }
 
 std::size_t bytesOf(const std::vector<std::string>& texts) {

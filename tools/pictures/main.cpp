@@ -85,12 +85,14 @@ void makePicture(const std::filesystem::path& source, const std::string& name) {
     };
     act([&] { player.open(name); });
     const std::string record = manual::pictureRecord(*player.window(), page.example);
+    std::string fault;
     for (const manual::Step& step : page.example) {
-        std::string fault;
         act([&] { fault = player.play(step); });
         if (!fault.empty())
-            fail(name + ": " + fault);
+            break;
     }
+    if (!fault.empty())
+        fail(name + ": " + fault);
     act([&] { player.open(name); });
     QTest::qWait(400);
     QWidget* view = session.viewOf(*player.window());

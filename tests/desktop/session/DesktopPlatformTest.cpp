@@ -142,10 +142,8 @@ private slots:
             static_cast<void>(file.open(QIODevice::WriteOnly));
             file.write(QByteArray(lineFeeds, '\n'));
             file.close();
-            desktop_->expectDialog([&](QDialog& dialog) {
-                static_cast<QFileDialog&>(dialog).selectFile(path);
-                QMetaObject::invokeMethod(&dialog, "accept");
-            });
+            desktop_->expectDialog(
+                [&](QDialog& dialog) { answer(dynamic_cast<QFileDialog&>(dialog), path); });
             return platform().showFileDialog(
                 {FileDialog::Kind::open, "Abrir", "Archivos (*.RTF)|*.RTF", ""});
         };
