@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTableView>
 #include <algorithm>
@@ -101,7 +102,9 @@ void hugContent(QBoxLayout& box) {
     for (int i = 0; i < box.count(); ++i) {
         QLayoutItem& item = *box.itemAt(i);
         const auto* frame = qobject_cast<QGroupBox*>(item.widget());
-        if (frame && !item.alignment() && !frame->findChild<QTableView*>() &&
+        // Options below each other read as one column.
+        const bool options = upright && frame && frame->findChild<QRadioButton*>();
+        if (frame && !options && !item.alignment() && !frame->findChild<QTableView*>() &&
             across(item) < muchLess * largest)
             item.setAlignment(upright ? Qt::AlignLeft : Qt::AlignTop);
     }
