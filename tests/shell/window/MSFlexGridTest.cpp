@@ -165,6 +165,13 @@ TEST_F(GridTest, ChoosingTheCurrentCellRunsTheChangeAlone) {
     EXPECT_EQ(events, Events{"change 1,1"});
 }
 
+TEST_F(GridTest, ChoosingTheCurrentCellEndsTheSelection) {
+    grid.setSelectionEnd(2, 2);
+    grid.selectCell(1, 1);
+    EXPECT_EQ(grid.RowSel(), 1);
+    EXPECT_EQ(grid.ColSel(), 1);
+}
+
 TEST_F(GridTest, AMoveEndsTheSelection) {
     grid.setSelectionEnd(2, 2);
     EXPECT_EQ(grid.RowSel(), 2);
