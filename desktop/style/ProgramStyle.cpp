@@ -31,6 +31,16 @@ QString drawingOf(QStyle::StandardPixmap which) {
         return QStringLiteral("Lista");
     case QStyle::SP_FileDialogDetailedView:
         return QStringLiteral("Detalles");
+    case QStyle::SP_DirIcon:
+    case QStyle::SP_DirOpenIcon:
+    case QStyle::SP_DirClosedIcon:
+    case QStyle::SP_DirHomeIcon:
+        return QStringLiteral("Carpeta");
+    case QStyle::SP_FileIcon:
+        return QStringLiteral("Archivo");
+    case QStyle::SP_ComputerIcon:
+    case QStyle::SP_DriveHDIcon:
+        return QStringLiteral("Equipo");
     default:
         return {};
     }
@@ -39,6 +49,14 @@ QString drawingOf(QStyle::StandardPixmap which) {
 } // namespace
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+    // The buttons of dialogs say what they do in words.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
 
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                  const QWidget* widget) const {

@@ -11,6 +11,9 @@ public:
 
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr,
+                  const QWidget* widget = nullptr,
+                  QStyleHintReturn* returned = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap which, const QStyleOption* option = nullptr,
                            const QWidget* widget = nullptr) const override;
 };

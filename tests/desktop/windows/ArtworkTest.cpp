@@ -50,6 +50,9 @@ private slots:
             {QStyle::SP_FileDialogNewFolder, "CarpetaNueva"},
             {QStyle::SP_FileDialogListView, "Lista"},
             {QStyle::SP_FileDialogDetailedView, "Detalles"},
+            {QStyle::SP_DirIcon, "Carpeta"},
+            {QStyle::SP_FileIcon, "Archivo"},
+            {QStyle::SP_ComputerIcon, "Equipo"},
         };
         for (const auto& [which, name] : ours) {
             const QImage shown =
