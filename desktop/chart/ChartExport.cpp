@@ -1,6 +1,7 @@
 #include "desktop/chart/ChartExport.h"
 
 #include "desktop/chart/ChartImage.h"
+#include "desktop/session/FileNames.h"
 #include "desktop/words/FileKinds.h"
 
 #include <QDir>
@@ -14,9 +15,6 @@
 namespace caudalera {
 
 namespace {
-
-/// Well below what file systems take, with the folders before it.
-constexpr qsizetype longestName = 80;
 
 /// Where the last picture of the run went.
 QString& lastFolder() {
@@ -59,13 +57,7 @@ bool mayReplace(const QString& path, QWidget* parent) {
 } // namespace
 
 QString imageNameFor(const QString& caption) {
-    QString name;
-    for (const QChar each : caption) {
-        const bool safe = each.isPrint() && !QStringLiteral("<>:\"/\\|?*.").contains(each);
-        name += safe ? each : QChar(u' ');
-    }
-    name = name.simplified().left(longestName).trimmed();
-    return name.isEmpty() ? QStringLiteral("gráfico") : name;
+    return fileNameOf(caption, QStringLiteral("gráfico"));
 }
 
 void askAndSaveChart(QCustomPlot& plot, const QString& caption, QWidget* parent) {

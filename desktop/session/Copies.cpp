@@ -1,6 +1,7 @@
 #include "desktop/session/Copies.h"
 
 #include "desktop/richtext/QtText.h"
+#include "desktop/session/FileNames.h"
 #include "shell/files/TextFile.h"
 #include "shell/numbers/RuntimeFailure.h"
 #include "shell/report/frmPadre.h"
@@ -16,18 +17,8 @@ namespace caudalera {
 
 namespace {
 
-constexpr int longestName = 80;
-
-/// A text as part of a file name that every system takes.
-QString asFileName(QString text) {
-    for (QChar& character : text) {
-        if (character < u' ' || QStringLiteral("/\\:*?\"<>|").contains(character))
-            character = u'-';
-    }
-    text = text.left(longestName).trimmed();
-    while (text.endsWith(u'.'))
-        text.chop(1);
-    return text.isEmpty() ? QStringLiteral("Sin nombre") : text;
+QString nameOf(const std::string& caption) {
+    return fileNameOf(toQString(caption), QStringLiteral("Sin nombre"));
 }
 
 /// "X" of "Valores de X|*.X".
@@ -78,7 +69,7 @@ public:
 
 private:
     void copyWindow(const Window& window) {
-        const QString name = asFileName(toQString(window.caption));
+        const QString name = nameOf(window.caption);
         const auto* sheet = dynamic_cast<const Worksheet*>(&window);
         int results = 0;
         for (const Control* control : window.controls()) {
@@ -127,7 +118,7 @@ private:
             return;
         const QFileInfo file(toQString(document.caption));
         const bool isPath = file.fileName() != toQString(document.caption);
-        put(asFileName(isPath ? file.completeBaseName() : toQString(document.caption)),
+        put(nameOf(isPath ? file.completeBaseName().toStdString() : document.caption),
             QStringLiteral("rtf"), [&](const std::string& path) {
                 escribirArchivo(path, writeRtf(document.rtfText, program_.platform().reportFont()));
             });

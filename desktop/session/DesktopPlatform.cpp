@@ -10,6 +10,7 @@
 #include "desktop/style/Title.h"
 #include "desktop/words/FileKinds.h"
 #include "shell/files/TextFile.h"
+#include "shell/main/frmCaudalera.h"
 #include "shell/numbers/RuntimeFailure.h"
 #include "shell/report/frmDocumento.h"
 
@@ -283,14 +284,14 @@ bool DesktopPlatform::startProcess(const std::string& commandLine) {
     const QString viewer = words.takeFirst();
     if (QProcess::startDetached(viewer, words))
         return true;
-    return !words.isEmpty() && words.constLast().endsWith(helpFile()) && openHelpFile();
+    return !words.isEmpty() && words.constLast().contains(helpFile()) && openHelpFile();
 }
 
 bool DesktopPlatform::openHelp(const Window* window) {
-    std::string topic = "c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm";
+    std::string order = ordenAyuda;
     if (window)
-        topic += "::/" + window->name() + ".html";
-    return startProcess(topic) || openHelpFile();
+        order += "::/" + window->name() + ".html";
+    return startProcess(order);
 }
 
 bool DesktopPlatform::openHelpFile() {

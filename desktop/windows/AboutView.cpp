@@ -2,6 +2,7 @@
 
 #include "desktop/style/Style.h"
 #include "desktop/style/Title.h"
+#include "desktop/windows/Placement.h"
 #include "shell/main/frmacerc.h"
 
 #include <QApplication>
@@ -28,8 +29,7 @@ AboutView::AboutView(Session& session, frmacerc& window)
     sync();
     takeSize();
     views_.of(window_.bsalir).widget().setFocus();
-    if (const QWidget* opener = QApplication::activeWindow())
-        move(opener->geometry().center() - rect().center());
+    placement::centreOn(*this, QApplication::activeWindow());
 }
 
 void AboutView::build() {

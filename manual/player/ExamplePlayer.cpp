@@ -32,7 +32,7 @@ std::string unitOf(const Control& control) {
     return {};
 }
 
-std::string not_(const std::string& what, const std::string& is, const std::string& written) {
+std::string isNot(const std::string& what, const std::string& is, const std::string& written) {
     return what + " is \"" + is + "\", not \"" + written + "\"";
 }
 
@@ -59,11 +59,11 @@ std::string ExamplePlayer::play(const Step& step) {
         if (step.row >= grid->Rows() || step.column >= grid->Cols())
             return "no cell " + step.key();
         const std::string text = grid->TextMatrix(step.row, step.column);
-        return text == step.value() ? "" : not_(step.key(), text, step.value());
+        return text == step.value() ? "" : isNot(step.key(), text, step.value());
     }
     if (step.kind == Step::Kind::field) {
         const std::string text = shown(*control);
-        return text == step.value() ? "" : not_(step.control, text, step.value());
+        return text == step.value() ? "" : isNot(step.control, text, step.value());
     }
     return act(step, *control);
 }
@@ -74,10 +74,10 @@ std::string ExamplePlayer::captionFault(const Step& step, const Control& control
                        step.kind != Step::Kind::cell && step.kind != Step::Kind::row &&
                        step.kind != Step::Kind::keys && control.kind() != ControlKind::label;
     if (named && !caption.empty() && caption != plain(step.caption))
-        return not_("the caption of " + step.control, caption, step.caption);
+        return isNot("the caption of " + step.control, caption, step.caption);
     const std::string unit = unitOf(control);
     if (!step.unit.empty() && !unit.empty() && unit != step.unit)
-        return not_("the unit of " + step.control, unit, step.unit);
+        return isNot("the unit of " + step.control, unit, step.unit);
     return {};
 }
 
@@ -107,7 +107,7 @@ std::string ExamplePlayer::act(const Step& step, Control& control) {
         program_.focus(*box);
         program_.changeText(*box, {});
         typeText(program_, *box, step.value());
-        return box->text() == step.value() ? "" : not_(step.control, box->text(), step.value());
+        return box->text() == step.value() ? "" : isNot(step.control, box->text(), step.value());
     }
     case Step::Kind::choose: {
         auto* list = dynamic_cast<List*>(&control);

@@ -94,7 +94,7 @@ void frmCaudalera::opens(MenuEntry& below, const char* name, const char* text, c
 }
 
 void frmCaudalera::ayuda() {
-    if (!platform().startProcess("c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm"))
+    if (!platform().startProcess(ordenAyuda))
         mensaje(sinAyuda);
 }
 

@@ -7,6 +7,8 @@
 namespace caudalera {
 
 /// The main window: a cover picture, the exit button and the menu that opens the others.
+/// Starts the help viewer at the first page; "::/" and a page may stand behind it.
+inline constexpr const char* ordenAyuda = "c:\\Caudalera\\hh c:\\Caudalera\\Ayuda.chm";
 /// What is shown when there is no viewer to show the help with.
 inline const Message sinAyuda = {"Para obtener la ayuda presionar tecla F1 ", "Mensaje de error",
                                  Icon::information};
