@@ -14,6 +14,13 @@ int main(int argc, char** argv) {
     QElapsedTimer sinceStart;
     sinceStart.start();
 
+#ifdef Q_OS_WIN
+    // An entry of the Start menu sets no variable, so the program is its own launcher here: numbers
+    // are written with the point, which they are read with, unless the user asks for another sign.
+    if (qEnvironmentVariableIsEmpty("CAUDALERA_DECIMAL"))
+        qputenv("CAUDALERA_DECIMAL", ".");
+#endif
+
     caudalera::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Caudalera"));
     QGuiApplication::setDesktopFileName(QStringLiteral("caudalera"));

@@ -10,7 +10,20 @@
 #include <iostream>
 #include <optional>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 namespace {
+
+/// Lines end as they are written, where the system would put its own ends in their place.
+void keepLineEnds() {
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
+}
 
 std::optional<caudalera::DriverOptions> optionsOf(const std::vector<std::string>& arguments) {
     caudalera::DriverOptions options;
@@ -40,6 +53,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: caudalera-driver [--fixed-dir DIR] [--decimal-separator C]\n";
         return 2;
     }
+    keepLineEnds();
     caudalera::Driver driver(std::move(*options));
     for (std::string line; std::getline(std::cin, line);)
         std::cout << driver.answer(line) << '\n' << std::flush;

@@ -6,6 +6,10 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace caudalera::viewer {
 
 namespace {
@@ -33,6 +37,10 @@ bool OneViewer::take(const QString& topic) {
         connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &OneViewer::readRequest);
         return true;
     }
+#ifdef Q_OS_WIN
+    // Whom the user has just started may let another one come to the front.
+    AllowSetForegroundWindow(ASFW_ANY);
+#endif
     // Written beside it and renamed, so that the other one reads the whole of it.
     QSaveFile file(request_);
     if (file.open(QIODevice::WriteOnly)) {

@@ -281,7 +281,11 @@ bool DesktopPlatform::startProcess(const std::string& commandLine) {
         word = mapped(word, directory);
     if (words.isEmpty())
         return false;
-    const QString viewer = words.takeFirst();
+    QString viewer = words.takeFirst();
+#ifdef Q_OS_WIN
+    // The system looks for the suffix itself only where a name stands without its folder.
+    viewer += QStringLiteral(".exe");
+#endif
     if (QProcess::startDetached(viewer, words))
         return true;
     return !words.isEmpty() && words.constLast().contains(helpFile()) && openHelpFile();
@@ -301,16 +305,18 @@ bool DesktopPlatform::openHelpFile() {
 }
 
 std::filesystem::path DesktopPlatform::fixedDirectory() {
-#ifdef Q_OS_WIN
-    return "C:\\Caudalera\\";
-#else
     const QString named = qEnvironmentVariable("CAUDALERA_DIR");
     if (!named.isEmpty())
         return named.toStdU16String();
+    const QDir program(QApplication::applicationDirPath());
+#ifdef Q_OS_WIN
+    // A copy that was not installed has its data with it.
+    if (program.exists(QStringLiteral("datos")))
+        return program.filePath(QStringLiteral("datos")).toStdU16String();
+    return "C:\\Caudalera\\";
+#else
     // Installed and in the build tree alike, the data lie beside the folder of the program.
-    return QDir::cleanPath(QDir(QApplication::applicationDirPath())
-                               .filePath(QStringLiteral("../share/caudalera")))
-        .toStdU16String();
+    return QDir::cleanPath(program.filePath(QStringLiteral("../share/caudalera"))).toStdU16String();
 #endif
 }
 

@@ -18,8 +18,10 @@ Words::Words(const QString& folder, QObject* parent) : QTranslator(parent) {
         for (const Word& word : words)
             own_.insert(key(word.context, word.english), QString::fromUtf8(word.spanish));
     }
-    // May be missing: then a text that our own words leave out stays as it is.
-    static_cast<void>(load(QStringLiteral("qtbase_es"), folder));
+    // A program that brings the toolkit along has its words within itself. They may be missing:
+    // then a text that our own words leave out stays as it is.
+    const QString name = QStringLiteral("qtbase_es");
+    static_cast<void>(load(name, folder) || load(name, QStringLiteral(":/words")));
 }
 
 QString Words::translate(const char* context, const char* english, const char* disambiguation,

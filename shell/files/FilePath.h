@@ -10,4 +10,10 @@ inline std::filesystem::path filePath(const std::string& utf8) {
     return {std::u8string(utf8.begin(), utf8.end())};
 }
 
+/// A path as an UTF-8 text.
+inline std::string pathText(const std::filesystem::path& path) {
+    const std::u8string utf8 = path.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
 } // namespace caudalera

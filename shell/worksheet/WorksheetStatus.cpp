@@ -83,8 +83,7 @@ void Worksheet::registrarCalculo(const std::function<void()>& pasos) {
 }
 
 void Worksheet::anotarArchivo(const char* hecho) {
-    const auto nombre = filePath(program().variables.nombreArchivo).filename().u8string();
-    estado_.done(hecho + std::string(nombre.begin(), nombre.end()));
+    estado_.done(hecho + pathText(filePath(program().variables.nombreArchivo).filename()));
 }
 
 std::vector<const Control*> Worksheet::staleResults() const {

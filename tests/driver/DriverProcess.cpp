@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <stdexcept>
@@ -31,7 +32,9 @@ DriverProcess::DriverProcess(std::vector<std::string> arguments) {
     std::signal(SIGPIPE, SIG_IGN);
     const auto in = makePipe();
     const auto out = makePipe();
-    arguments.insert(arguments.begin(), CAUDALERA_DRIVER);
+    // Another one, say that of another system, can be put in its place.
+    const char* other = std::getenv("CAUDALERA_DRIVER");
+    arguments.insert(arguments.begin(), other ? other : CAUDALERA_DRIVER);
     std::vector<char*> argv;
     argv.reserve(arguments.size() + 1);
     for (auto& argument : arguments)
@@ -41,7 +44,7 @@ DriverProcess::DriverProcess(std::vector<std::string> arguments) {
     if (pid_ == 0) {
         ::dup2(in[0], STDIN_FILENO);
         ::dup2(out[1], STDOUT_FILENO);
-        ::execv(CAUDALERA_DRIVER, argv.data());
+        ::execv(argv.front(), argv.data());
         ::_exit(127);
     }
     ::close(in[0]);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/files/FilePath.h"
+
 #include <filesystem>
 #include <random>
 #include <string>
@@ -24,7 +26,8 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
+    /// A name in it, in UTF-8 as the program takes names.
+    std::string file(const std::string& name) const { return pathText(path_ / filePath(name)); }
 
 private:
     std::filesystem::path path_;

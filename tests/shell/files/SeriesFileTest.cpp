@@ -112,8 +112,8 @@ TEST_F(SeriesFileTest, AFileThatCannotBeOpenedLeavesTheNumberFree) {
     EXPECT_EQ(access("", SeriesFile::Access::replace), 52);
     EXPECT_EQ(access(path("none.X"), SeriesFile::Access::read), 53);
     EXPECT_FALSE(std::filesystem::exists(path("none.X"))) << "reading creates nothing";
-    EXPECT_EQ(access(folder.path().string(), SeriesFile::Access::read), 53);
-    EXPECT_EQ(access(folder.path().string(), SeriesFile::Access::replace), 75);
+    EXPECT_EQ(access(pathText(folder.path()), SeriesFile::Access::read), 53);
+    EXPECT_EQ(access(pathText(folder.path()), SeriesFile::Access::replace), 75);
     EXPECT_EQ(access(path("none/a.X"), SeriesFile::Access::replace), 75);
     EXPECT_FALSE(variables.archivoUnoEnUso);
 }
