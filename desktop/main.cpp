@@ -1,4 +1,5 @@
 #include "app/registry.h"
+#include "desktop/CommandLine.h"
 #include "desktop/Views.h"
 #include "desktop/session/Application.h"
 #include "desktop/style/Style.h"
@@ -10,6 +11,9 @@
 #include <cstdio>
 
 int main(int argc, char** argv) {
+    namespace commandline = caudalera::commandline;
+    if (const auto answer = commandline::answerOfProgram(commandline::argumentsOf(argc, argv)))
+        return commandline::say(*answer);
     caudalera::ignoreFileSizeSignal();
     QElapsedTimer sinceStart;
     sinceStart.start();
@@ -23,7 +27,7 @@ int main(int argc, char** argv) {
 
     caudalera::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Caudalera"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("caudalera"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.caudalera.Caudalera"));
     QApplication::setOrganizationName(QStringLiteral("Caudalera"));
     // The model says when the program ends, not the number of windows.
     QApplication::setQuitOnLastWindowClosed(false);

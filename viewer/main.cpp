@@ -1,5 +1,6 @@
 // caudalera-ayuda FILE[::/TOPIC]: shows a help file at a page of it.
 
+#include "desktop/CommandLine.h"
 #include "desktop/style/Style.h"
 #include "desktop/words/Words.h"
 #include "viewer/OneViewer.h"
@@ -10,9 +11,12 @@
 #include <QStandardPaths>
 
 int main(int argc, char** argv) {
+    namespace commandline = caudalera::commandline;
+    if (const auto answer = commandline::answerOfViewer(commandline::argumentsOf(argc, argv)))
+        return commandline::say(*answer);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Caudalera"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("caudalera"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.caudalera.Caudalera"));
 
     const QString asked = QApplication::arguments().value(1);
     const QString separator = QStringLiteral("::/");

@@ -56,7 +56,7 @@ const std::vector<Room> rooms = {
     {"desktop", {"desktop/report", "app"}},
     {"manual/maker", {}},
     {"manual/player", {"manual/maker", "recording"}},
-    {"viewer", {"desktop/style", "desktop/words"}},
+    {"viewer", {"desktop/style", "desktop/words", "desktop/CommandLine.h"}},
 };
 
 /// Rooms beside the desktop whose files may include a library's own headers.
