@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <string_view>
+#include <utility>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -51,6 +52,13 @@ struct Program {
     std::size_t files;
 };
 
+Answer refusal(const Program& program, const std::string& argument) {
+    std::string text(program.name);
+    text.append(": no se admite «").append(argument).append("»; vea ");
+    text.append(program.name).append(" --help\n");
+    return {std::move(text), 2};
+}
+
 std::optional<Answer> answer(const Program& program, const std::vector<std::string>& arguments) {
     if (arguments.size() == 1 && arguments[0] == "--version")
         return Answer{"Caudalera " CAUDALERA_VERSION "\n"};
@@ -58,10 +66,8 @@ std::optional<Answer> answer(const Program& program, const std::vector<std::stri
         return Answer{std::string(program.help)};
     std::size_t files = 0;
     for (const std::string& argument : arguments) {
-        if (argument.starts_with('-') || ++files > program.files) {
-            const std::string name(program.name);
-            return Answer{name + ": no se admite «" + argument + "»; vea " + name + " --help\n", 2};
-        }
+        if (argument.starts_with('-') || ++files > program.files)
+            return refusal(program, argument);
     }
     return {};
 }
