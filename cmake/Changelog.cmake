@@ -3,11 +3,10 @@
 # paragraph of what it is about, the same in Spanish in a comment ("<!-- es: ... -->"), and the
 # lists of what has changed. Anything else fails.
 
-# changelog_lines(FILE OUT): the lines of a file as a list, with brackets and semicolons, which
-# lists would not keep, told by names; changelog_text makes them what they were.
-function(changelog_lines FILE OUT)
-    file(READ "${FILE}" text)
-    string(REPLACE ";" "@semicolon@" text "${text}")
+# changelog_lines(TEXT OUT): the lines of a text as a list, with brackets and semicolons, which lists
+# would not keep, told by names; changelog_text makes them what they were.
+function(changelog_lines TEXT OUT)
+    string(REPLACE ";" "@semicolon@" text "${TEXT}")
     string(REPLACE "[" "@open@" text "${text}")
     string(REPLACE "]" "@close@" text "${text}")
     string(REPLACE "\n" ";" text "${text}")
@@ -27,7 +26,8 @@ endfunction()
 function(changelog_releases FILE)
     set(number "[0-9]+[.][0-9]+[.][0-9]+")
     set(date "[0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9]")
-    changelog_lines("${FILE}" lines)
+    file(READ "${FILE}" text)
+    changelog_lines("${text}" lines)
     set(versions "")
     set(version "")
     foreach(line IN LISTS lines)
@@ -105,24 +105,41 @@ function(changelog_metainfo FILE OUT)
     set(${OUT} "${xml}" PARENT_SCOPE)
 endfunction()
 
-# changelog_debian(FILE PACKAGE MAINTAINER OUT): the releases in the form of a Debian changelog, whose
-# lines have 80 characters. Needs what any Debian system has.
+# changelog_wrapped(TEXT OUT): an item of a Debian changelog, in lines of 80 characters at most.
+function(changelog_wrapped TEXT OUT)
+    string(REPLACE " " ";" words "${TEXT}")
+    set(done "")
+    set(line "  *")
+    foreach(word IN LISTS words)
+        changelog_text("${line} ${word}" shown)
+        string(LENGTH "${shown}" length)
+        if(length GREATER 80)
+            string(APPEND done "${line}\n")
+            set(line "   ")
+        endif()
+        string(APPEND line " ${word}")
+    endforeach()
+    set(${OUT} "${done}${line}\n" PARENT_SCOPE)
+endfunction()
+
+# changelog_debian(FILE PACKAGE MAINTAINER OUT): the releases in the form of a Debian changelog, with
+# the items of their lists. Needs the `date` of a Debian system.
 function(changelog_debian FILE PACKAGE MAINTAINER OUT)
     changelog_releases("${FILE}")
     set(text "")
     foreach(version IN LISTS changelog_versions)
         execute_process(COMMAND date -R -u -d "${changelog_${version}_date}"
             OUTPUT_VARIABLE date OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-        string(REGEX REPLACE "(^|\n)- " "\\1* " items "${changelog_${version}_items}")
-        string(REPLACE "\n" "\n  " items "${items}")
-        file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/items.txt" "  ${items}\n")
-        execute_process(COMMAND fmt --tagged-paragraph --width=80
-            "${CMAKE_CURRENT_BINARY_DIR}/items.txt"
-            OUTPUT_VARIABLE items COMMAND_ERROR_IS_FATAL ANY)
-        string(APPEND text
-            "${PACKAGE} (${version}) unstable; urgency=medium\n\n"
-            "${items}\n"
-            " -- ${MAINTAINER}  ${date}\n\n")
+        string(APPEND text "${PACKAGE} (${version}) unstable; urgency=medium\n\n")
+        string(REGEX REPLACE "\n +" " " items "${changelog_${version}_items}")
+        changelog_lines("${items}" items)
+        foreach(item IN LISTS items)
+            string(REGEX REPLACE "^- " "" item "${item}")
+            changelog_wrapped("${item}" item)
+            changelog_text("${item}" item)
+            string(APPEND text "${item}")
+        endforeach()
+        string(APPEND text "\n -- ${MAINTAINER}  ${date}\n\n")
     endforeach()
     string(REGEX REPLACE "\n\n$" "\n" text "${text}")
     set(${OUT} "${text}" PARENT_SCOPE)
