@@ -3,9 +3,9 @@
 #include "desktop/richtext/LayoutLimits.h"
 #include "desktop/richtext/QtText.h"
 #include "desktop/style/LongWork.h"
+#include "desktop/style/Style.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -151,8 +151,7 @@ bool shows(const QTextBlock& block, const Paragraph& paragraph) {
 } // namespace
 
 QFont reportFont() {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setStyleHint(QFont::Monospace);
+    QFont font = style::fixedFont();
     const QScreen* screen = QGuiApplication::primaryScreen();
     const double room = (screen ? screen->availableGeometry().width() : 1024) - pixels(besideRule);
     constexpr double smallest = 8;

@@ -1,6 +1,6 @@
 #include "desktop/richtext/RichTextBridge.h"
+#include "desktop/style/Style.h"
 
-#include <QFontDatabase>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QTextDocument>
@@ -18,8 +18,7 @@ constexpr double marginInches = 0.4;
 
 std::unique_ptr<QTextDocument> toTextDocument(const RichText& text, const QSizeF& paper) {
     auto document = std::make_unique<QTextDocument>();
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setStyleHint(QFont::Monospace);
+    QFont font = style::fixedFont();
     font.setPointSizeF(10);
     document->setUndoRedoEnabled(false);
     prepare(*document, font);

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPalette>
 #include <QStyle>
@@ -79,6 +80,16 @@ Qt::PenStyle seriesPen(int i) {
     static constexpr std::array pens = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
                                         Qt::DashDotDotLine};
     return pens[static_cast<std::size_t>(std::max(i, 0)) % pens.size()];
+}
+
+QFont fixedFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+#ifdef Q_OS_WIN
+    // What Windows names has hairlines, which are hard to read on a screen.
+    font.setFamilies({QStringLiteral("Consolas"), font.family()});
+#endif
+    font.setStyleHint(QFont::Monospace);
+    return font;
 }
 
 int unit() {

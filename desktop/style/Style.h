@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QIcon>
 #include <QString>
 #include <Qt>
@@ -41,6 +42,9 @@ QColor lines();
 /// they repeat after the last one.
 QColor seriesColor(int i);
 Qt::PenStyle seriesPen(int i);
+
+/// Letters of one width, in the size that the system gives them.
+QFont fixedFont();
 
 /// The spacing unit, 8 px at the base type size; grows with the type.
 int unit();
