@@ -3,6 +3,7 @@
 ;   VERSION, NUMBERS   the version as text, and as four numbers
 ;   STAGE              the program's folder as `cmake --install` made it, its data within datos\
 ;   LISTS              remove-program.nsh and remove-data.nsh, which name what the uninstaller removes
+;   ICON, SIDE         its icon, and the picture at the side of its first and last page
 ;   OUTPUT             the installer to write
 Unicode true
 Target amd64-unicode
@@ -32,6 +33,7 @@ VIAddVersionKey /LANG=3082 "LegalCopyright" "GPL-3.0-or-later"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "${STAGE}\LICENCIA.txt"
