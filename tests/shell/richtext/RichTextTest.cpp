@@ -211,6 +211,14 @@ TEST(RichTextTest, ParagraphFormatsGoToWhatTheSelectionTouches) {
     EXPECT_EQ(show(caret), "l0/0 [ab]\nl0/0 [cd]\nl10/0 \n");
 }
 
+TEST(RichTextTest, AfterAssignThePlaceIsTheStartOfTheNewContent) {
+    RichText text({line({{"ab", {}}}), line({{"cd", {}}}), line({{"ef", {}}})});
+    text.select(7, 0);
+    text.assign({line({{"uno", {}}}), line({{"dos", {}}}), line({{"tres", {}}})});
+    text.setSelText("x");
+    EXPECT_EQ(text.text(), "xuno\ndos\ntres");
+}
+
 TEST(RichTextTest, AssignReplacesEverything) {
     RichText text;
     text.setSelText("abc");
