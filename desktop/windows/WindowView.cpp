@@ -77,7 +77,8 @@ void WindowView::orderFocus() {
 
 bool WindowView::event(QEvent* event) {
     const bool known = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest)
+    // Long work lets events through, also while this is being built.
+    if (event->type() == QEvent::LayoutRequest && content_)
         takeSmallestSize();
     return known;
 }

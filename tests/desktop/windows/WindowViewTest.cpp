@@ -1,3 +1,4 @@
+#include "desktop/windows/WindowView.h"
 #include "desktop/grid/GridView.h"
 #include "tests/desktop/DesktopFixture.h"
 
@@ -13,6 +14,27 @@
 #include <QTabWidget>
 
 namespace caudalera {
+
+namespace {
+
+/// Asks every view for a new layout as soon as it has a child, as long work does that lets events
+/// through while a view is being built.
+class ImpatientLayout : public QObject {
+public:
+    ImpatientLayout() { QCoreApplication::instance()->installEventFilter(this); }
+    int asked = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ChildAdded && qobject_cast<WindowView*>(watched)) {
+            QEvent request(QEvent::LayoutRequest);
+            QCoreApplication::sendEvent(watched, &request);
+            ++asked;
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 class WindowViewTest : public QObject {
     Q_OBJECT
@@ -33,6 +55,16 @@ private slots:
         QCOMPARE(&desktop_->open("frmParamEsta"), &window);
         QCOMPARE(&desktop_->view(), view);
         QCOMPARE(desktop_->row(2), QStringLiteral(" 2|2.0"));
+    }
+
+    void eventsMayComeWhileAWindowIsBuilt() {
+        desktop_->open("frmDisNormal");
+        const QSize usual = desktop_->view().size();
+        desktop_->clickButton("bMenu");
+        const ImpatientLayout impatient;
+        desktop_->open("frmDisNormal");
+        QVERIFY(impatient.asked > 0);
+        QCOMPARE(desktop_->view().size(), usual);
     }
 
     void bMenuClosesTheWindowAndShowsTheMainOne() {
