@@ -133,6 +133,9 @@ TEST(RtfHostileTest, NumbersOutOfAllRange) {
     EXPECT_EQ(readRtf("{\\rtf1 a\\bin" + huge + " b}").text(), "a");
     EXPECT_EQ(readRtf("{\\rtf1 a\\bin-" + huge + " b}").text(), "ab");
     EXPECT_EQ(readRtf("{\\rtf1 a\\uc200\\u241 " + std::string(150, 'x') + "}").text(), "añ");
+    // As many as one byte tells, and no more.
+    EXPECT_EQ(readRtf("{\\rtf1 a\\uc255\\u241 " + std::string(255, 'x') + "b}").text(), "añb");
+    EXPECT_EQ(readRtf("{\\rtf1 a\\uc256\\u241 xb}").text(), "añb");
 }
 
 TEST(RtfHostileTest, NulBytesAndEndlessWords) {
