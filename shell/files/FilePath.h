@@ -5,8 +5,8 @@
 
 namespace caudalera {
 
-// The one place where texts become paths and paths texts. The program's texts are UTF-8; on Windows
-// a path holds wide characters, and a stream that is opened by it calls the system's functions for
+// The model's one place where texts become paths and paths texts. Its texts are UTF-8; on Windows a
+// path holds wide characters, and a stream that is opened by it calls the system's functions for
 // wide names, so that any name works whatever the code page.
 
 /// The path that an UTF-8 text names, also where the system's own paths are not UTF-8.
